@@ -7,7 +7,9 @@ set(CMAKE_CXX_SCAN_FOR_MODULES OFF)
 
 find_program(QUENDLE_CCACHE ccache)
 if(QUENDLE_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${QUENDLE_CCACHE})
+  # The cache takes files with a precompiled header only when told that it may.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${QUENDLE_CCACHE})
 endif()
 
 set(QUENDLE_WARNINGS_AS_ERRORS AUTO CACHE STRING
@@ -33,6 +35,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(quendle_flags INTERFACE
     -Wduplicated-cond     # the second of two equal branches never runs
     -Wlogical-op          # `a && 4` where `a & 4` was meant
+    -fpch-preprocess      # lets the cache see the precompiled header of the tests
     -Wno-restrict         # GCC 12 reports std::string concatenation falsely at -O2
   )
 endif()
