@@ -1,0 +1,91 @@
+#include "base/ContentFiles.h"
+
+#include <optional>
+#include <utility>
+
+#include "base/SF_Strings.h"
+#include "base/Settings.h"
+#include "platform/FileSystem.h"
+
+namespace quendle {
+namespace {
+
+// Collects lines and replaces the file as a whole at Close; a stream that is dropped before
+// writes nothing, so a fault in the middle leaves the old file.
+class TextWriter : public TextStream {
+ public:
+  TextWriter(FileSystem& files, std::string path, std::string display_name)
+      : files_(files), path_(std::move(path)), display_name_(std::move(display_name)) {}
+
+  bool AtEndOfStream() const override { return true; }
+  std::string ReadLine(std::string_view) override {
+    throw FatalError("the file is open for writing and can't be read", Place());
+  }
+  void WriteLine(std::string_view line) override {
+    bytes_.append(line).append("\r\n");
+    ++line_;
+  }
+  void Close() override {
+    if (std::exchange(closed_, true)) return;
+    if (!files_.Write(path_, bytes_)) {
+      throw FatalError("the file can't be written", {display_name_, 0});
+    }
+  }
+  FilePlace Place() const override { return {display_name_, line_}; }
+
+ private:
+  FileSystem& files_;
+  std::string path_;
+  std::string display_name_;
+  std::string bytes_;
+  int line_ = 0;
+  bool closed_ = false;
+};
+
+}  // namespace
+
+bool ContentFiles::FileExistsAt(const std::string& path) const { return files_.Exists(path); }
+
+void ContentFiles::DeleteFileIfPresent(const std::string& path) const {
+  if (!files_.Exists(path)) return;
+  if (!files_.Remove(path)) {
+    throw FatalError("the file can't be deleted", {DisplayName(path), 0});
+  }
+}
+
+std::unique_ptr<TextStream> ContentFiles::OpenTextFileChecked(const std::string& path,
+                                                              OpenMode mode, bool create) const {
+  if (mode == OpenMode::kWrite) {
+    if (!create) ReadExisting(path);
+    return std::make_unique<TextWriter>(files_, path, DisplayName(path));
+  }
+  if (create && !files_.Exists(path)) files_.Write(path, "");
+  return std::make_unique<TextReader>(ReadExisting(path), DisplayName(path));
+}
+
+void ContentFiles::WriteOneLine(const std::string& path, std::string_view line) const {
+  TextWriter writer(files_, path, DisplayName(path));
+  writer.WriteLine(line);
+  writer.Close();
+}
+
+void ContentFiles::CopyFile(const std::string& from, const std::string& to) const {
+  if (!files_.Write(to, ReadExisting(from))) {
+    throw FatalError("the file can't be written", {DisplayName(to), 0});
+  }
+}
+
+std::string ContentFiles::DisplayName(std::string_view path) const {
+  std::string name = SF_remove(path, settings_.BaseDirectory);
+  return name.starts_with('\\') ? name.substr(1) : name;
+}
+
+const std::string& ContentFiles::BaseDirectory() const { return settings_.BaseDirectory; }
+
+std::string ContentFiles::ReadExisting(const std::string& path) const {
+  std::optional<std::string> bytes = files_.Read(path);
+  if (!bytes) throw FatalError::WithBox("File " + path + " not found", {DisplayName(path), 0});
+  return std::move(*bytes);
+}
+
+}  // namespace quendle

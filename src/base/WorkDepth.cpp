@@ -1,0 +1,51 @@
+#include "base/WorkDepth.h"
+
+namespace quendle {
+namespace {
+
+const char* Noun(Work work) {
+  switch (work) {
+    case Work::kMessage:
+      return "message";
+    case Work::kScript:
+      return "script line";
+    case Work::kLoad:
+      return "file";
+    case Work::kTreeWalk:
+      return "walk over the tree";
+  }
+  return "work";
+}
+
+}  // namespace
+
+void WorkDepth::ForgetFailure() {
+  noted_ = false;
+  failed_object_.clear();
+  failed_text_.clear();
+}
+
+void DepthGuard::Refuse() {
+  Note();
+  throw FatalError("more than " + std::to_string(WorkDepth::kLimit) +
+                   " levels deep: the content goes round in circles at " + Noun(work_) + " \"" +
+                   std::string(text_) + "\"");
+}
+
+void DepthGuard::Note() noexcept {
+  try {
+    // The innermost message or script line names the fault best; loads and walks only give the
+    // object until such a level is reached.
+    if (place_ != nullptr && depth_.failed_object_.empty()) {
+      depth_.failed_object_ = place_->WorkPath();
+    }
+    if (work_ == Work::kMessage || work_ == Work::kScript) {
+      depth_.failed_text_ = text_;
+      depth_.noted_ = true;
+    }
+  } catch (...) {
+    depth_.noted_ = true;  // no memory to describe the fault: its own text must do
+  }
+}
+
+}  // namespace quendle

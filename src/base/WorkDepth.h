@@ -1,0 +1,67 @@
+#pragma once
+
+#include <exception>
+#include <string>
+#include <string_view>
+
+#include "base/FatalError.h"
+
+namespace quendle {
+
+// Something with a place in the object tree, for messages.
+class WorkPlace {
+ public:
+  virtual ~WorkPlace() = default;
+  // "SCREEN/child/...".
+  virtual std::string WorkPath() const = 0;
+};
+
+enum class Work { kMessage, kScript, kLoad, kTreeWalk };
+
+// Counts the nesting of messages, scripts, loads and tree walks, so that content which goes round
+// in circles ends with a message and not with the stack. After a fault it tells what was in work.
+class WorkDepth {
+ public:
+  static constexpr int kLimit = 200;
+
+  int Depth() const { return depth_; }
+  // What was in work when the last exception passed: object path, and message or script line.
+  const std::string& FailedObject() const { return failed_object_; }
+  const std::string& FailedText() const { return failed_text_; }
+  void ForgetFailure();
+
+ private:
+  friend class DepthGuard;
+  int depth_ = 0;
+  bool noted_ = false;
+  std::string failed_object_;
+  std::string failed_text_;
+};
+
+// One level of nesting. More than WorkDepth::kLimit levels are fatal, and the message names the
+// work. `text` and `place` must outlive the guard; `place` may be null.
+class DepthGuard {
+ public:
+  DepthGuard(WorkDepth& depth, Work work, std::string_view text, const WorkPlace* place = nullptr)
+      : depth_(depth), work_(work), text_(text), place_(place) {
+    if (depth_.depth_ >= WorkDepth::kLimit) Refuse();
+    ++depth_.depth_;
+  }
+  ~DepthGuard() {
+    --depth_.depth_;
+    if (std::uncaught_exceptions() > 0 && !depth_.noted_) Note();
+  }
+  DepthGuard(const DepthGuard&) = delete;
+  DepthGuard& operator=(const DepthGuard&) = delete;
+
+ private:
+  [[noreturn]] void Refuse();
+  void Note() noexcept;
+
+  WorkDepth& depth_;
+  Work work_;
+  std::string_view text_;
+  const WorkPlace* place_;
+};
+
+}  // namespace quendle

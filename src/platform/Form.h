@@ -1,0 +1,62 @@
+// Plain records of a form and its controls, shared by the form logic, the hosts and the tools.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Geometry.h"
+
+namespace quendle {
+
+enum class ControlKind { kPicture, kLabel, kRadio, kCheck, kFrame, kLine, kImage, kScroll, kText };
+
+struct Control {
+  std::string name;  // "Picture1", "optEasy", "lines"
+  int index = 0;     // element of a control array, 0 for a single control
+  ControlKind kind = ControlKind::kLabel;
+  std::string text;
+  Rect area;  // in pixels of the form
+  bool visible = true;
+  bool enabled = true;
+  int value = 0;        // radio and check: 0 or 1; scroll bar: position
+  int maximum = 0;      // scroll bar
+  std::string group;    // radio: name of its frame; one of a group is set
+  std::string picture;  // picture box: name of its art, such as "ok" or "ok-highlight"
+  Color color = 0;      // line: its colour; label and text: colour of the letters
+  bool link = false;    // label: leads somewhere when pressed
+  bool hover = false;   // label: shown with the look of a link under the pointer
+  int font_size = 9;    // points
+};
+
+enum class WindowState { kNormal, kMinimised };
+
+struct Form {
+  std::string name;
+  std::string caption;
+  bool visible = false;
+  bool enabled = false;
+  WindowState window_state = WindowState::kNormal;
+  Size size;
+  std::vector<Control> controls;
+  int focus = -1;  // position in `controls` of the control with the keyboard focus, or -1
+
+  // The control of that name (case ignored) and index; nothing when there is none.
+  Control* Find(std::string_view control_name, int index = 0);
+};
+
+// Keys that a form understands.
+enum class FormKey { kTab, kBackTab, kUp, kDown, kLeft, kRight, kSpace, kEnter, kEscape };
+
+// Handlers of a form's events, implemented by the form's logic.
+class FormEvents {
+ public:
+  virtual ~FormEvents() = default;
+  virtual void PointerOverForm() = 0;
+  virtual void PointerOver(Control& control) = 0;
+  virtual void Press(Control& control, Point at) = 0;  // `at`: pixels of the control
+  virtual void Key(FormKey key) = 0;
+  virtual void QueryClose() = 0;  // the window system asks the form to close
+};
+
+}  // namespace quendle

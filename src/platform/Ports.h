@@ -1,0 +1,34 @@
+#pragma once
+
+namespace quendle {
+
+class Boxes;
+class Clock;
+class DirectDraw;
+class DisplayModes;
+class FileSystem;
+class FilterGraphs;
+class FormHost;
+class GameWindow;
+class Gdi;
+class RandomSource;
+class SystemServices;
+class TimerService;
+
+// Everything the game needs of a platform. The references outlive the game.
+struct Ports {
+  FileSystem& files;
+  Clock& clock;
+  TimerService& timers;
+  RandomSource& random;
+  Boxes& boxes;
+  Gdi& gdi;
+  DirectDraw& direct_draw;
+  DisplayModes& display_modes;
+  FilterGraphs& filter_graphs;
+  GameWindow& window;
+  FormHost& forms;
+  SystemServices& system;
+};
+
+}  // namespace quendle
