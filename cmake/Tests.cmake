@@ -1,0 +1,63 @@
+# Tests: one executable a room from tests/<room>/*.cpp, one run for every scenario file.
+
+enable_testing()
+find_package(GTest REQUIRED)
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
+# A room's tests run in one process: thousands of tests cost seconds. Each executable leaves a
+# report beside itself, from which ./check counts the tests one by one.
+set(QUENDLE_TEST_REPORTS ${PROJECT_BINARY_DIR}/reports)
+
+# Tests are repeatable anywhere: no display, no sound device, no C.UTF-8 surprises.
+set(QUENDLE_TEST_ENVIRONMENT
+  SDL_VIDEODRIVER=dummy SDL_AUDIODRIVER=dummy
+  ASAN_OPTIONS=strict_string_checks=1:detect_stack_use_after_return=1
+  UBSAN_OPTIONS=print_stacktrace=1)
+
+# gtest's header is compiled once for all test executables.
+file(WRITE ${PROJECT_BINARY_DIR}/test_headers.cpp "")
+add_library(quendle_test_headers STATIC EXCLUDE_FROM_ALL ${PROJECT_BINARY_DIR}/test_headers.cpp)
+target_link_libraries(quendle_test_headers PRIVATE quendle_flags GTest::gmock)
+target_precompile_headers(quendle_test_headers PRIVATE
+  <gmock/gmock.h> <gtest/gtest.h> <functional> <map> <memory> <string> <string_view> <vector>)
+
+# quendle_room_tests(ROOM TARGET): `test_<room>`, when tests/ROOM holds sources. It links the room,
+# what the room may see, and the raster and headless backends as its platform.
+function(quendle_room_tests room target)
+  if(room MATCHES "/[A-Z]")
+    return()  # a class on a floor of its own is tested with its folder
+  endif()
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${room}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  string(REPLACE "quendle_" "test_" test ${target})
+  add_executable(${test} ${sources})
+  set_target_properties(${test} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
+  target_include_directories(${test} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${test} PRIVATE
+    quendle_flags ${target} quendle_headless quendle_raster GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${test} REUSE_FROM quendle_test_headers)
+  add_test(NAME ${test} COMMAND ${test} --gtest_brief=1
+           --gtest_output=json:${QUENDLE_TEST_REPORTS}/${test}.json)
+  set_tests_properties(${test} PROPERTIES
+    TIMEOUT 300 LABELS unit ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+endfunction()
+
+# Every tests/scenarios/NAME.drive becomes the test `scenario.NAME`.
+function(quendle_scenarios)
+  set(runner ${PROJECT_SOURCE_DIR}/tests/scenarios/run.py)
+  file(GLOB scenarios CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/scenarios/*.drive)
+  if(NOT scenarios OR NOT TARGET quendle)
+    return()
+  endif()
+  foreach(scenario IN LISTS scenarios)
+    get_filename_component(name ${scenario} NAME_WE)
+    add_test(NAME scenario.${name}
+             COMMAND ${Python3_EXECUTABLE} ${runner} $<TARGET_FILE:quendle>
+                     ${QUENDLE_CONTENT_DIR} ${scenario})
+    set_tests_properties(scenario.${name} PROPERTIES
+      TIMEOUT 300 LABELS scenario ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  endforeach()
+endfunction()
