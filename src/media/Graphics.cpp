@@ -134,6 +134,7 @@ Color ReadKeyColor(MediaWorld& world) {
   const Color key = gdi.GetPixel(context, {0, 0});
   gdi.DeleteObject(bitmap);
   gdi.DeleteDC(context);
+  if (key == kInvalidColor) FailOnPicture(world, path);
   return key;
 }
 
