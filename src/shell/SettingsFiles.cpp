@@ -32,7 +32,9 @@ void SettingsFiles::SaveOptions() {
 void SettingsFiles::ReadGameMode() {
   const std::string path = PathOf("GameMode.txt");
   if (!files_.FileExistsAt(path)) files_.WriteOneLine(path, "Normal");
-  settings_.SafeMode = EqualsNoCase(RequiredLine("GameMode.txt", "the game mode"), "Safe");
+  if (EqualsNoCase(RequiredLine("GameMode.txt", "the game mode"), "Safe")) {
+    settings_.SafeMode = true;
+  }
 }
 
 bool SettingsFiles::DialogModeExists() const {

@@ -22,7 +22,8 @@ class SettingsFiles {
   // Writes the three from the settings; a failed write is fatal.
   void SaveOptions();
 
-  // Reads "GameMode.txt" into SafeMode; a missing file is made first. An empty one is fatal.
+  // Sets SafeMode if "GameMode.txt" says "Safe", and never clears it; a missing file is made first.
+  // An empty one is fatal.
   void ReadGameMode();
 
   // True if the difficulty question has been answered.

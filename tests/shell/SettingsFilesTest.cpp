@@ -127,7 +127,6 @@ TEST_F(SettingsFilesTest, AnOptionFileThatCantBeWrittenIsFatalAndNamed) {
 }
 
 TEST_F(SettingsFilesTest, AMissingGameModeIsMadeAndReadAsNormal) {
-  settings.SafeMode = true;
   settings_files.ReadGameMode();
   EXPECT_EQ(File("GameMode.txt"), "Normal\r\n");
   EXPECT_FALSE(settings.SafeMode);
@@ -135,12 +134,14 @@ TEST_F(SettingsFilesTest, AMissingGameModeIsMadeAndReadAsNormal) {
 
 TEST_F(SettingsFilesTest, OnlySafeSetsTheSafeMode) {
   for (const char* word : {"Safe\r\n", "SAFE", "safe\n"}) {
+    settings.SafeMode = false;
     Put("gamemode.txt", word);
     settings_files.ReadGameMode();
     EXPECT_TRUE(settings.SafeMode) << word;
     EXPECT_EQ(File("GameMode.txt"), word) << "an existing file stays as it is";
   }
   for (const char* word : {"Normal", "Safety", "\r\nSafe"}) {
+    settings.SafeMode = false;
     Put("gamemode.txt", word);
     settings_files.ReadGameMode();
     EXPECT_FALSE(settings.SafeMode) << word;
