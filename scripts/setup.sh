@@ -13,8 +13,9 @@ say() { printf '%s\n' "== $*"; }
 
 missing_packages() {
   local installed package
-  installed=$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null |
-              sed -n 's/^installed //p')
+  # dpkg-query fails when it knows a package not at all: that is an answer, not an error.
+  installed=$({ dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null ||
+                true; } | sed -n 's/^installed //p')
   for package in "${packages[@]}"; do
     grep -qxF -- "$package" <<<"$installed" || printf '%s\n' "$package"
   done
