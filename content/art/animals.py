@@ -62,7 +62,7 @@ def dog_head(mood):
         out += stroke("M70,72Q80,62 94,66") + stroke("M170,72Q160,62 146,66")
     elif mood in ("happy", "joy"):
         out += stroke("M74,64Q84,56 96,62") + stroke("M166,64Q156,56 144,62")
-    out += cheek(66, 118, 12, 8) + cheek(174, 118, 12, 8)
+    out += cheek(72, 120, 11, 7) + cheek(168, 120, 11, 7)
     if mood in ("sad", "blink"):
         out += stroke("M120,124V132") + stroke("M102,144Q111,132 120,134Q129,132 138,144")
     elif mood == "ow":
@@ -84,7 +84,7 @@ def dog_head(mood):
 
 def dog(mood="sad", paw="cut", tail=0, breath=0, hop=0):
     """The dog, sitting, in a frame of 250 by 290, feet at y 284. `tail` swings it, `hop` lifts all."""
-    tip = {-1: "M176,236Q222,240 226,206", 0: "M176,236Q216,232 226,192", 1: "M176,236Q204,214 210,174"}[tail]
+    tip = {-1: "M66,250Q26,258 16,236", 0: "M66,246Q22,244 18,208", 1: "M66,242Q30,226 34,186"}[tail]
     out = limb(tip, DOG, 20)
     out += solid(f"M120,{150 - breath}C176,{150 - breath} 196,210 190,252Q186,280 120,280Q54,280 50,252C44,210 64,{150 - breath} 120,{150 - breath}Z", DOG, 8,
                  inside=flat(ellipse(120, 224, 42, 52), CREAM))  # fmt: skip

@@ -1,9 +1,9 @@
-"""Rooms and what stands in them. The floor line of every room is y 470; the tool bar begins at y 490."""
+"""Rooms and what stands in them. The tool bar covers every room from y 490 down."""
 
 from items import *
 from shapes import *
 
-FLOOR = 440
+FLOOR = 458
 
 
 def wall(colour, pattern="dots"):
@@ -19,22 +19,23 @@ def wall(colour, pattern="dots"):
                 out += flat(heart_path(x, y, 7), soft)
             else:
                 out += flat(star_path(x, y, 9), soft)
-    out += flat("M0,330H800V440H0Z", light(colour, 0.5))
+    out += flat(f"M0,330H800V{FLOOR}H0Z", light(colour, 0.5))
     for x in range(40, 800, 80):
-        out += stroke(f"M{x},342V428", shade(colour, 0.12), 3)
+        out += stroke(f"M{x},342V{FLOOR - 18}", shade(colour, 0.12), 3)
     out += flat("M0,322H800V336H0Z", shade(colour, 0.16)) + stroke("M0,322H800M0,336H800", shade(colour, 0.55), 3)
     out += flat(f"M0,{FLOOR}H800V600H0Z", WOOD)
-    for i, y in enumerate((462, 490, 524, 564)):
+    boards = (FLOOR, 478, 504, 536, 574)
+    for i, y in enumerate(boards[1:]):
         out += stroke(f"M0,{y}H800", shade(WOOD, 0.28), 3)
         for x in range(-60 + (i % 2) * 70, 820, 150):
-            top = (FLOOR, 462, 490, 524)[i]
-            out += stroke(f"M{x},{top}V{y}", shade(WOOD, 0.28), 3)
+            out += stroke(f"M{x},{boards[i]}V{y}", shade(WOOD, 0.28), 3)
     out += flat(f"M0,{FLOOR - 14}H800V{FLOOR}H0Z", CREAM) + stroke(f"M0,{FLOOR - 14}H800M0,{FLOOR}H800", OUTLINE, 3)
-    return out
+    return out + flat("M0,0H800V600H0Z", "url(#warmth)")
 
 
 def sunbeam(points):
-    return flat(poly(*points), "#fff3b8", 0.3)
+    """Light that fades towards the lower edge; for full screens only, since it is half transparent."""
+    return flat(poly(*points), "url(#beam)")
 
 
 def shadow(cx, cy, rx, ry=8):
@@ -99,8 +100,8 @@ def bunting(x1, x2, y, colours):
 
 
 def lamp(cx, y):
-    """A hanging lamp with its cord from the ceiling."""
-    out = flat(poly((cx - 40, y + 30), (cx + 40, y + 30), (cx + 110, y + 230), (cx - 110, y + 230)), "#fff3b8", 0.22)
+    """A hanging lamp with its cord from the ceiling and its light below."""
+    out = sunbeam(((cx - 40, y + 30), (cx + 40, y + 30), (cx + 120, y + 280), (cx - 120, y + 280)))
     out += stroke(f"M{cx},-4V{y}", OUTLINE, 4) + solid(ellipse(cx, y + 34, 14, 13), YELLOW, 3)
     return out + solid(f"M{cx - 46},{y + 34}Q{cx - 40},{y} {cx},{y}Q{cx + 40},{y} {cx + 46},{y + 34}Z", CORAL, 5)
 

@@ -25,7 +25,7 @@ def doctor_head(eyes="open", mouth="smile"):
         out += shut_eye(72, 110, up=True) + shut_eye(118, 110, up=True)
     out += stroke(ellipse(72, 108, 19, 19), TEAL, 3.5) + stroke(ellipse(118, 108, 19, 19), TEAL, 3.5)
     out += stroke("M91,106Q95,102 99,106", TEAL, 3.5)
-    out += cheek(52, 130) + cheek(138, 130)
+    out += cheek(57, 133, 11, 7) + cheek(133, 133, 11, 7)
     out += stroke("M93,122Q96,126 99,122", shade(SKIN, 0.5), 3.5)
     if mouth == "smile":
         out += stroke("M78,136Q95,150 112,136")

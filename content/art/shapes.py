@@ -187,6 +187,14 @@ DEFINITIONS = (
     '<feComponentTransfer result="ring"><feFuncA type="linear" slope="40" intercept="-2"/></feComponentTransfer>'
     f'<feFlood flood-color="{GLOW}"/><feComposite in2="ring" operator="in" result="yellow"/>'
     '<feMerge><feMergeNode in="yellow"/><feMergeNode in="SourceGraphic"/></feMerge></filter>'
+    '<linearGradient id="beam" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#fff3b8" stop-opacity="0.6"/>'
+    '<stop offset="1" stop-color="#fff3b8" stop-opacity="0"/></linearGradient>'
+    f'<linearGradient id="sky" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="{SKY}"/>'
+    f'<stop offset="1" stop-color="{CREAM}"/></linearGradient>'
+    '<linearGradient id="gutter"><stop offset="0" stop-color="#8a4a3c" stop-opacity="0"/>'
+    '<stop offset="0.5" stop-color="#8a4a3c" stop-opacity="0.3"/><stop offset="1" stop-color="#8a4a3c" stop-opacity="0"/></linearGradient>'
+    '<radialGradient id="warmth" cx="0.5" cy="0.35" r="0.75"><stop offset="0.45" stop-color="#fff3b8" stop-opacity="0.24"/>'
+    '<stop offset="1" stop-color="#f5a04a" stop-opacity="0.1"/></radialGradient>'
 )
 
 

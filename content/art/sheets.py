@@ -57,24 +57,25 @@ def screen(piece):
 
 
 def intro():
-    out = flat("M0,0H800V600H0Z", SKY)
-    out += flat("M0,150H800V420H0Z", light(SKY, 0.35)) + flat("M0,260H800V420H0Z", light(SKY, 0.65))
+    out = flat("M0,0H800V430H0Z", "url(#sky)")
     for i in range(12):
-        out += move(flat(poly((0, 0), (420, -22), (420, 22)), "#fff3b8", 0.35), 96, 92, turn=i * 30 + 8)
-    out += solid(ellipse(96, 92, 52), YELLOW, 7, inside="", glint=(76, 68, 14, 9))
-    out += shut_eye(80, 90, 8, up=True) + shut_eye(112, 90, 8, up=True) + stroke("M80,106Q96,122 112,106") + cheek(66, 106, 9, 6) + cheek(126, 106, 9, 6)
-    out += cloud(250, 66, 0.6) + cloud(704, 84, 0.85) + cloud(560, 40, 0.45)
+        out += move(flat(poly((0, 0), (520, -26), (520, 26)), "#fff3b8", 0.4), 92, 214, turn=i * 30 + 8)
+    out += solid(ellipse(92, 214, 46), YELLOW, 7, glint=(74, 192, 13, 8))
+    out += shut_eye(77, 212, 8, up=True) + shut_eye(107, 212, 8, up=True) + stroke("M78,227Q92,241 106,227")
+    out += cheek(64, 227, 8, 5) + cheek(120, 227, 8, 5)
+    out += cloud(690, 196, 0.72) + cloud(214, 168, 0.42)
     out += flat("M0,372Q180,300 400,350T800,330V600H0Z", light(GREEN, 0.35))
     out += stroke("M0,372Q180,300 400,350T800,330", OUTLINE)
-    out += tree(60, 424, 1.05) + tree(748, 420, 1.15)
+    out += tree(22, 432, 0.95) + tree(796, 430, 1.05)
     # The house.
     out += solid(box(170, 258, 460, 190, 10), CREAM, 10)
     for x in range(196, 620, 64):
         out += flat(box(x, 400, 40, 16, 3), PEACH) + flat(box(x - 30, 424, 40, 16, 3), PEACH)
-    out += solid("M140,268L214,176H586L660,268Q664,278 652,278H148Q136,278 140,268Z", CORAL, 9)
+    tiles = ""
     for row, y in enumerate((198, 224, 250)):
-        for x in range(206 - row * 20 + (row % 2) * 16, 600 + row * 20, 40):
-            out += stroke(f"M{x},{y}Q{x + 16},{y + 14} {x + 32},{y}", shade(CORAL, 0.5), 3)
+        for x in range(132 + (row % 2) * 20, 680, 40):
+            tiles += stroke(f"M{x},{y}Q{x + 16},{y + 14} {x + 32},{y}", shade(CORAL, 0.4), 3)
+    out += solid("M140,268L214,176H586L660,268Q664,278 652,278H148Q136,278 140,268Z", CORAL, 9, inside=tiles)
     out += solid(ellipse(400, 226, 44), WHITE, 6) + paw_print(400, 222, 30, CORAL)
     for x in (206, 510):
         out += window(x, 306, 84, 78) + solid(box(x - 12, 394, 108, 22, 6), DARKWOOD, 3)
@@ -87,55 +88,56 @@ def intro():
     for x, y, c in ((40, 520, PINK), (96, 566, YELLOW), (214, 486, WHITE), (596, 492, PINK), (700, 508, WHITE), (768, 556, YELLOW), (240, 572, CORAL), (566, 574, CORAL)):
         out += flower(x, y, c, 0.95)
     width = lettering_width("PAW CLINIC", 1.0)
-    out += lettering("PAW CLINIC", 400 - width / 2 + 8, 62, 1.0, (CORAL, ORANGE, YELLOW, GREEN, TEAL, PINK))
-    out += shadow(118, 574, 96, 13)
-    out += move(dog("happy", "bandaid", 1), 6, 318, size=0.9, about=(120, 284))
-    out += shadow(676, 582, 72, 11) + move(doctor("open", "smile", "up"), 582, 256)
+    out += lettering("PAW CLINIC", 400 - width / 2, 44, 1.0, (CORAL, ORANGE, YELLOW, GREEN, TEAL, PINK))
+    out += shadow(104, 566, 90, 12)
+    out += move(dog("happy", "bandaid", 1), -18, 280, size=0.82, about=(120, 284))
+    out += shadow(694, 574, 72, 11) + move(doctor("open", "smile", "up"), 600, 248)
     return screen(out)
 
 
 def hall():
     out = wall(PEACH, "dots")
     out += bunting(10, 436, 14, (CORAL, YELLOW, TEAL, GREEN, PINK))
-    out += window(476, 88, 118, 122) + curtains(476, 88, 118, 122, TEAL)
-    out += sunbeam(((476, 210), (594, 210), (520, 470), (330, 470)))
-    out += clock(716, 84, 42)
-    out += rug(400, 474, 270, 24, CORAL, YELLOW)
+    out += window(476, 92, 112, 118) + curtains(476, 92, 112, 118, TEAL)
+    out += sunbeam(((476, 232), (588, 232), (560, 458), (400, 458)))
+    out += clock(716, 76, 40)
+    out += rug(300, 484, 250, 17, CORAL, YELLOW)
     for x in (84, 229, 374):
-        out += shadow(x, 470, 72, 8)
-    out += shadow(560, 474, 100, 10) + desk(476, 366, 150, 104, WOOD)
-    out += bell(500, 360)
-    out += shadow(716, 478, 80, 10)
+        out += shadow(x, 461, 66, 5)
+    out += shadow(540, 476, 92, 9) + desk(468, 370, 136, 106, WOOD)
+    out += bell(588, 363)
+    out += shadow(700, 482, 66, 8)
     return screen(out)
 
 
 def dogroom():
     out = wall(SKY, "hearts")
-    out += window(196, 92, 130, 124) + curtains(196, 92, 130, 124, YELLOW)
-    out += sunbeam(((196, 216), (326, 216), (470, 470), (250, 470)))
-    out += poster(372, 92, 92, 112, bone(418, 148, 0.9, -30), PINK)
-    out += lamp(716, 46)
-    out += rug(360, 478, 250, 24, TEAL, CREAM)
-    out += shadow(84, 470, 72, 8) + shadow(366, 478, 170, 10)
-    out += table(216, 388, 300, 90, CORAL)
-    out += shadow(186, 474, 30, 6) + ball(186, 454, 21) + shadow(566, 480, 40, 7) + bowl(562, 468)
-    out += shadow(716, 478, 80, 10)
+    out += window(36, 80, 116, 112) + curtains(36, 80, 116, 112, YELLOW)
+    out += sunbeam(((36, 214), (152, 214), (330, 458), (120, 458)))
+    out += poster(200, 60, 84, 104, bone(242, 114, 0.84, -30), PINK)
+    out += poster(446, 190, 78, 96, heart(485, 240, 20), CREAM)
+    out += lamp(716, 40)
+    out += rug(340, 484, 250, 17, TEAL, CREAM)
+    out += shadow(84, 461, 66, 5) + shadow(346, 480, 160, 9)
+    out += table(194, 390, 304, 92, CORAL)
+    out += shadow(176, 482, 28, 5) + ball(176, 464, 20) + shadow(548, 484, 38, 6) + bowl(548, 472)
+    out += shadow(700, 482, 66, 8)
     return screen(out)
 
 
 def emptyroom():
     out = wall(MINT, "stars")
     out += poster(38, 70, 92, 112, cross_sign(84, 128), YELLOW)
-    out += shadow(84, 470, 72, 8) + rug(380, 478, 230, 20, GREEN, YELLOW)
-    out += shadow(378, 470, 200, 10)
+    out += shadow(84, 461, 66, 5) + rug(380, 484, 230, 16, GREEN, YELLOW)
+    out += shadow(378, 474, 200, 9)
     out += cupboard(186, 70, 380, 404, WOOD)
     for y in (230, 400):
         out += solid(box(202, y, 348, 18, 5), shade(WOOD, 0.1), 4)
     out += towels(268, 192) + cotton(388, 192) + cotton(456, 200, 0.78) + plant(516, 230, 0.62)
     out += solid(box(222, 424, 130, 34, 8), shade(WOOD, 0.05), 3) + solid(box(398, 424, 130, 34, 8), shade(WOOD, 0.05), 3)
     out += solid(ellipse(287, 441, 8), YELLOW, 0, 3) + solid(ellipse(463, 441, 8), YELLOW, 0, 3)
-    out += lamp(664, 30)
-    out += shadow(716, 478, 80, 10)
+    out += lamp(700, 30)
+    out += shadow(700, 482, 66, 8)
     return screen(out)
 
 
@@ -149,7 +151,9 @@ def bookscreen():
     page = "M400,62C330,34 160,36 72,58V466C160,446 330,444 400,472Z"
     other = "M400,62C470,34 640,36 728,58V466C640,446 470,444 400,472Z"
     out += solid(page, CREAM, 0) + solid(other, CREAM, 0)
-    out += flat("M400,62C380,54 360,50 340,48V456C362,460 384,464 400,472Z", shade(CREAM, 0.14)) + stroke("M400,62V472")
+    out += flat("M340,49C364,52 386,56 400,62C414,56 436,52 460,49V455C436,460 414,464 400,472C386,464 364,460 340,455Z", "url(#gutter)") + stroke("M400,62V472")
+    for dx in (7, 13):
+        out += stroke(f"M{76},{462 + dx}C160,{443 + dx} 330,{441 + dx} 400,{468 + dx}C470,{441 + dx} 640,{443 + dx} 724,{462 + dx}", shade(CREAM, 0.3), 3)
     for y, tool, paw, mood in ((52, antiseptic, "clean", "hope"), (258, bandaid, "bandaid", "joy")):
         left_paw = "cut" if tool is antiseptic else "clean"
         left_mood = "sad" if tool is antiseptic else "hope"
@@ -270,7 +274,7 @@ def bubble_contents():
         ("lift", arrow(76, 74, 1.1, turn=-90, fill=YELLOW) + arrow(146, 74, 1.1, turn=90, fill=YELLOW)),
         ("item", hand(52, 76, 1.25) + small_arrow(104, 76) + bandaid(166, 76, 0.95)),
         ("full", towels(108, 88, 0.8) + bandaid(70, 44, 0.55) + antiseptic(112, 38, 0.5) + bandaid(152, 44, 0.55)),
-        ("same", bandaid(66, 76, 0.9) + two_bars(112, 76) + bandaid(160, 76, 0.9)),
+        ("same", solid(box(34, 40, 76, 74, 18), light(WOOD, 0.25), 0) + bandaid(72, 77, 0.9) + cog_button(158, 76, 34, GREEN, tick(158, 73, 0.85))),
         ("retry", again(72, 74, 1.3, YELLOW) + dog_face(152, 76, 0.95)),
         ("over", again(60, 74, 1.1, ORANGE) + small_arrow(108, 76) + paw(162, 76, "cut")),
         ("dog", paw(52, 78, "cut") + small_arrow(104, 78) + antiseptic(160, 74, 1.1)),
@@ -280,10 +284,6 @@ def bubble_contents():
         ("bandaid", bandaid(54, 76, 0.9) + small_arrow(106, 78) + paw(162, 78, "clean")),
         ("home", house(70, 80, 1.2) + small_arrow(124, 80) + dog_face(170, 80, 0.8)),
     )
-
-
-def two_bars(cx, cy):
-    return stroke(f"M{cx - 9},{cy - 7}H{cx + 9}M{cx - 9},{cy + 7}H{cx + 9}", OUTLINE, 5)
 
 
 def dog_sheet():
@@ -357,7 +357,7 @@ def cursors():
     sheet = Sheet(64, 64, 3)
     sheet.add("hand", hand(24, 25, 1.0))
     sheet.add("bandaid", bandaid(32, 32, 0.8))
-    sheet.add("antiseptic", antiseptic(33, 33, 0.78) + drops(9, 12, 0.6))
+    sheet.add("antiseptic", move(antiseptic(34, 33, 0.78), size=(-1, 1), about=(34, 33)) + drops(6, 12, 0.62))
     return sheet
 
 
