@@ -22,7 +22,7 @@ target_precompile_headers(quendle_test_headers PRIVATE
   <gmock/gmock.h> <gtest/gtest.h> <functional> <map> <memory> <string> <string_view> <vector>)
 
 # quendle_room_tests(ROOM TARGET): `test_<room>`, when tests/ROOM holds sources. It links the room,
-# what the room may see, and the raster and headless backends as its platform.
+# what the room may see, and the raster, files and headless backends as its platform.
 function(quendle_room_tests room target)
   if(room MATCHES "/[A-Z]")
     return()  # a class on a floor of its own is tested with its folder
@@ -37,7 +37,7 @@ function(quendle_room_tests room target)
     RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
   target_include_directories(${test} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${test} PRIVATE
-    quendle_flags ${target} quendle_headless quendle_raster GTest::gmock GTest::gtest_main)
+    quendle_flags ${target} quendle_headless quendle_raster quendle_files GTest::gmock GTest::gtest_main)
   target_precompile_headers(${test} REUSE_FROM quendle_test_headers)
   add_test(NAME ${test} COMMAND ${test} --gtest_brief=1
            --gtest_output=json:${QUENDLE_TEST_REPORTS}/${test}.json)

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "backends/files/ContentPath.h"
+#include "backends/files/Descriptor.h"
+#include "backends/files/DiskSteps.h"
+#include "backends/files/FolderIndex.h"
+#include "platform/FileSystem.h"
+
+namespace quendle {
+
+// The files of one folder tree of the disk, by content path. Nothing outside the tree is read or
+// written.
+class DiskTree {
+ public:
+  // `root`: native path, which is made when the first file is written; `steps` must outlive the
+  // tree and its line writers.
+  DiskTree(std::string root, DiskSteps& steps) : index_(std::move(root)), steps_(steps) {}
+
+  // A regular file is there, readable or not.
+  bool Exists(const ContentPath& path);
+  // The whole file; nothing when it is missing, can't be read or is larger than 256 MB.
+  std::optional<std::string> Read(const ContentPath& path);
+  // Replaces or creates the file as a whole, with the folders it needs.
+  bool Write(const ContentPath& path, std::string_view bytes);
+  // Deletes the file if it exists. False when it exists and could not be deleted.
+  bool Remove(const ContentPath& path);
+  std::unique_ptr<LineWriter> CreateLineFile(const ContentPath& path);
+  // False when the folder is there and the system keeps us from writing into it.
+  bool IsWritable() const;
+
+ private:
+  // Where a file stands or will stand, as native names.
+  struct Spot {
+    std::string folder;  // below the root
+    std::string name;
+  };
+  Descriptor OpenFile(const ContentPath& path, int flags);
+  std::optional<Spot> SpotFor(const ContentPath& path);
+  std::optional<std::string> MakeFolders(std::span<const std::string> path);
+  bool MakeFolder(const std::string& parent, const std::string& name);
+  void ClearLeftovers(const Descriptor& folder, const std::string& path);
+
+  FolderIndex index_;
+  DiskSteps& steps_;
+};
+
+}  // namespace quendle
