@@ -81,8 +81,8 @@ Box DrawBody(Canvas& canvas, const Look& look, const Rect& area, ButtonState sta
 void DrawWord(Canvas& canvas, TextPainter& text, std::string_view word, Vec centre, double size) {
   TextStyle style{size, true, false, kOutline};
   double rim = std::max(1.0, size * 0.055);
-  const Vec around[] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}, {-.7, -.7}, {.7, -.7}, {-.7, .7},
-                        {.7, .7}, {0, 1.7}};
+  const Vec around[] = {{-1, 0},   {1, 0},    {0, -1},  {0, 1},  {-.7, -.7},
+                        {.7, -.7}, {-.7, .7}, {.7, .7}, {0, 1.7}};
   for (const Vec& step : around) {
     text.DrawCentred(canvas, word, style, {centre.x + step.x * rim, centre.y + step.y * rim});
   }

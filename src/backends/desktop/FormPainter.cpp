@@ -70,8 +70,8 @@ void FormPainter::PaintGround(Canvas& canvas, const Form& form) {
   canvas.Clear(kCream);
   canvas.FillShaded(Path::Polygon({{0, 0}, {width, 0}, {width, height}, {0, height}}), kCream,
                     kCreamDeep, kTitleBand, height);
-  const double paws[][4] = {{0.10, 0.90, 30, -24}, {0.90, 0.32, 26, 18}, {0.88, 0.86, 38, 24},
-                            {0.12, 0.36, 22, -12}};
+  const double paws[][4] = {
+      {0.10, 0.90, 30, -24}, {0.90, 0.32, 26, 18}, {0.88, 0.86, 38, 24}, {0.12, 0.36, 22, -12}};
   for (const auto& [x, y, radius, turn] : paws) {
     DrawPaw(canvas, {width * x, height * y}, radius, Hex(0xF3CF9C, 90));
   }
@@ -109,6 +109,14 @@ void FormPainter::PaintControl(Canvas& canvas, const Control& control, bool pres
       PaintField(canvas, control);
       break;
     case ControlKind::kImage:
+      if (control.picture == "puppy") {
+        Vec centre{(control.area.left + control.area.right) / 2.0,
+                   (control.area.top + control.area.bottom) / 2.0};
+        canvas.Fill(Path::Ellipse(centre, control.area.Width() / 2.0, control.area.Width() / 2.0),
+                    kPeach);
+        DrawPuppy(canvas, centre, control.area.Width() * 0.42, false);
+        break;
+      }
       canvas.Fill(Around(control.area, 0, 6), kPaper);
       canvas.Stroke(Around(control.area, 0, 6), 2, kOutline);
       break;
@@ -177,7 +185,8 @@ void FormPainter::PaintFrame(Canvas& canvas, const Control& control) {
   canvas.Fill(box, Hex(0xFFFCF5, 215));
   canvas.Stroke(box, 2, Hex(0xE3A35F));
   if (control.text.empty()) return;
-  Path sign = Path::RoundRect(control.area.left + 14, control.area.top - 1, width + 20, line + 2, 9);
+  Path sign =
+      Path::RoundRect(control.area.left + 14, control.area.top - 1, width + 20, line + 2, 9);
   canvas.Fill(sign, kPeach);
   canvas.Stroke(sign, 2, Hex(0xE3A35F));
   text_.Draw(canvas, control.text, style, control.area.left + 24, control.area.top);

@@ -85,8 +85,8 @@ void DrawPaw(Canvas& canvas, Vec c, double r, Rgba color) {
   pad.CurveTo({c.x - r * 0.66, c.y + r * 0.40}, {c.x - r * 0.36, c.y - r * 0.08},
               {c.x, c.y - r * 0.08});
   canvas.Fill(pad.Close(), color);
-  const double toes[][3] = {{-0.68, -0.12, -20}, {-0.27, -0.56, -6}, {0.27, -0.56, 6},
-                            {0.68, -0.12, 20}};
+  const double toes[][3] = {
+      {-0.68, -0.12, -20}, {-0.27, -0.56, -6}, {0.27, -0.56, 6}, {0.68, -0.12, 20}};
   for (const auto& [x, y, turn] : toes) {
     Vec toe{c.x + r * x, c.y + r * y};
     canvas.Fill(Path::Ellipse(toe, r * 0.21, r * 0.29).Turned(toe, turn), color);
@@ -151,9 +151,8 @@ void DrawGlobe(Canvas& canvas, Vec c, double r) {
 }
 
 void DrawPlaySign(Canvas& canvas, Vec c, double r, Rgba color) {
-  Path sign = Path::Polygon({{c.x - r * 0.42, c.y - r * 0.62},
-                             {c.x + r * 0.66, c.y},
-                             {c.x - r * 0.42, c.y + r * 0.62}});
+  Path sign = Path::Polygon(
+      {{c.x - r * 0.42, c.y - r * 0.62}, {c.x + r * 0.66, c.y}, {c.x - r * 0.42, c.y + r * 0.62}});
   canvas.Fill(sign, color);
   canvas.Stroke(sign, r * 0.26, color);
 }
