@@ -37,7 +37,8 @@ bool ReadPixelMasks(MediaWorld& world, Surface& surface);
 // Multiplier (place of the lowest bit) and divisor (8 bits down to the mask's width) of a mask.
 ChannelScale MaskToScale(std::uint32_t mask);
 
-// A colour of 8-bit channels as a pixel of the surface whose scales these are.
+// A colour of 8-bit channels as a pixel of the surface whose scales these are; a channel whose
+// scale isn't known counts as 0.
 std::int32_t ToSurfaceColor(const ColorScales& scales, int red, int green, int blue);
 
 // The key colour of that value in the pixel format of the off-screen surface.

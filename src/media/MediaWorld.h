@@ -22,10 +22,11 @@ struct PictureReference {
   SurfaceRef Picture;
 };
 
-// Turns an 8-bit channel into its bits of a surface's pixel: value / divisor * multiplier.
+// Turns an 8-bit channel into its bits of a surface's pixel: value / divisor * multiplier. Not
+// known while the divisor is 0.
 struct ChannelScale {
-  std::int32_t multiplier = 1;
-  std::int32_t divisor = 1;
+  std::int32_t multiplier = 0;
+  std::int32_t divisor = 0;
   friend bool operator==(const ChannelScale&, const ChannelScale&) = default;
 };
 

@@ -67,9 +67,9 @@ class ObjectPicture {
   std::string FullPath() const;
   void LoadContextPicture();
   bool TryLoadSurface(bool restore);
-  bool CopyBitmapToSurface(bool restore);
+  bool CopyBitmapToSurface(Size size);
+  void RestoreLostSurface();
   void DeleteBitmap();
-  [[noreturn]] void FailLoading() const;
 
   MediaWorld& world_;
   ContextHandle drawing_surface_;

@@ -35,6 +35,7 @@ class SplineState {
   bool PointReached() const;
   void TakeStep();
   void GoToFirstPoint();
+  void MoveTo(double x, double y);
   double X(int index) const { return At(x_list_, index, "x"); }
   double Y(int index) const { return At(y_list_, index, "y"); }
   double At(const std::vector<std::string>& list, int index, const char* axis) const;

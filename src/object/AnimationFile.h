@@ -10,16 +10,16 @@ namespace quendle {
 // The record of one animation state.
 struct AnimationRecord {
   std::string name;
-  std::int16_t interval = 0;  // milliseconds
-  std::string loop;           // "loop" or another word
-  std::string directive_file; // stored path, "nothing" or "unused"
+  std::int16_t interval = 0;                         // milliseconds
+  std::string loop;                                  // "loop" or another word
+  std::string directive_file;                        // stored path, "nothing" or "unused"
   std::vector<std::vector<std::string>> frame_sets;  // frame names
   FilePlace place;
 };
 
 // An animation file. Without a picture nothing else is read.
 struct AnimationFile {
-  std::string picture;     // stored path, or "nothing"
+  std::string picture;  // stored path, or "nothing"
   FilePlace picture_place;
   std::string frame_file;  // stored path
   std::vector<AnimationRecord> animations;

@@ -83,8 +83,8 @@ void OpaqueSpans::CopyPart(const Rect& part, const std::uint32_t* source, int so
                            std::uint32_t* target, int target_pitch) const {
   if (whole_) {
     const std::ptrdiff_t top = part.top;
-    CopyRows(target + top * target_pitch + part.left, target_pitch,
-             source + top * source_pitch + part.left, source_pitch, part.Width(), part.Height());
+    CopyRows(target, target_pitch, source + top * source_pitch + part.left, source_pitch,
+             part.Width(), part.Height());
     return;
   }
   for (std::uint32_t i = rows_[part.top]; i < rows_[part.bottom]; ++i) {
@@ -92,8 +92,9 @@ void OpaqueSpans::CopyPart(const Rect& part, const std::uint32_t* source, int so
     const int begin = std::max<int>(span.x, part.left);
     const int end = std::min<int>(span.x + span.length, part.right);
     if (begin >= end) continue;
-    const std::ptrdiff_t y = span.y;
-    CopyPixels(target + y * target_pitch + begin, source + y * source_pitch + begin, end - begin);
+    const std::ptrdiff_t row = span.y - part.top;
+    CopyPixels(target + row * target_pitch + (begin - part.left),
+               source + static_cast<std::ptrdiff_t>(span.y) * source_pitch + begin, end - begin);
   }
 }
 

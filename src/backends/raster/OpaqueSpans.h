@@ -17,7 +17,8 @@ class OpaqueSpans {
   // Copies the runs. `source` and `target` are the pixels at the rectangle's top left corner.
   void Copy(const std::uint32_t* source, int source_pitch, std::uint32_t* target,
             int target_pitch) const;
-  // The same for a part of the rectangle, in coordinates of the rectangle.
+  // The same for a part of the rectangle, in coordinates of the rectangle; `target` is where the
+  // part's top left corner goes.
   void CopyPart(const Rect& part, const std::uint32_t* source, int source_pitch,
                 std::uint32_t* target, int target_pitch) const;
 

@@ -38,7 +38,7 @@ class RasterBitmap {
   const std::uint32_t* At(int x, int y) const { return pixels_.get() + Offset(x, y); }
   // The pixels for writing; what was known of their spans is forgotten.
   std::uint32_t* WritableAt(int x, int y) {
-    spans_.clear();
+    if (!spans_.empty()) spans_.clear();
     return pixels_.get() + Offset(x, y);
   }
   void Clear();
