@@ -78,10 +78,15 @@ function(quendle_room room)
   quendle_room_tests(${room} ${target})
 endfunction()
 
-# quendle_third_party(ROOM LIBRARY...): links them into a room, unseen by the rooms above.
+# quendle_third_party(ROOM LIBRARY...): links them into a room and its tests, unseen by the rooms
+# above.
 function(quendle_third_party room)
+  quendle_room_target(target ${room})
+  string(REPLACE "quendle_" "test_" test ${target})
   if(QUENDLE_SOURCES_${room})
-    quendle_room_target(target ${room})
     target_link_libraries(${target} PRIVATE ${ARGN})
+  endif()
+  if(TARGET ${test})
+    target_link_libraries(${test} PRIVATE ${ARGN})
   endif()
 endfunction()

@@ -24,10 +24,11 @@ class KeyedList {
   // `noun` names the kind of entry in messages, such as "state".
   explicit KeyedList(const char* noun = "entry") : noun_(noun) {}
 
-  // Appends under a key. A key that is present is fatal.
-  void Add(T value, std::string key) {
+  // Appends under a key. A key that is present is fatal; `place` tells where the entry stands.
+  void Add(T value, std::string key, FilePlace place = {}) {
     if (Find(key) != nullptr) {
-      throw FatalError(std::string("there are two ") + noun_ + " entries named \"" + key + "\"");
+      throw FatalError(std::string("there are two ") + noun_ + " entries named \"" + key + "\"",
+                       std::move(place));
     }
     entries_.push_back({std::move(key), std::move(value)});
   }

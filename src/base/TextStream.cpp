@@ -29,6 +29,12 @@ void TextReader::WriteLine(std::string_view) {
   throw FatalError("the file is open for reading and can't be written", Place());
 }
 
+std::string TextComposer::ReadLine(std::string_view expected) {
+  throw FatalError("text that is being written can't be read for " + std::string(expected));
+}
+
+void TextComposer::WriteLine(std::string_view line) { bytes_.append(line).append("\r\n"); }
+
 std::int16_t ReadInt16(TextStream& stream, std::string_view what) {
   std::string line = stream.ReadLine(what);
   return Int16FromText(line, what, stream.Place());

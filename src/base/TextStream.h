@@ -42,6 +42,22 @@ class TextReader : public TextStream {
   int line_ = 0;
 };
 
+// Writes to text in memory.
+class TextComposer : public TextStream {
+ public:
+  // `bytes` must outlive this object; lines are appended to it.
+  explicit TextComposer(std::string& bytes) : bytes_(bytes) {}
+
+  bool AtEndOfStream() const override { return true; }
+  std::string ReadLine(std::string_view expected) override;
+  void WriteLine(std::string_view line) override;
+  void Close() override {}
+  FilePlace Place() const override { return {}; }
+
+ private:
+  std::string& bytes_;
+};
+
 // The next line as a number, rounded; other text is fatal.
 std::int16_t ReadInt16(TextStream& stream, std::string_view what);
 std::int32_t ReadInt32(TextStream& stream, std::string_view what);

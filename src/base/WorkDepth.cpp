@@ -23,6 +23,7 @@ void WorkDepth::ForgetFailure() {
   noted_ = false;
   failed_object_.clear();
   failed_text_.clear();
+  failed_place_ = {};
 }
 
 void DepthGuard::Refuse() {
@@ -41,6 +42,7 @@ void DepthGuard::Note() noexcept {
     }
     if (work_ == Work::kMessage || work_ == Work::kScript) {
       depth_.failed_text_ = text_;
+      if (origin_ != nullptr) depth_.failed_place_ = *origin_;
       depth_.noted_ = true;
     }
   } catch (...) {

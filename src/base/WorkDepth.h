@@ -28,6 +28,8 @@ class WorkDepth {
   // What was in work when the last exception passed: object path, and message or script line.
   const std::string& FailedObject() const { return failed_object_; }
   const std::string& FailedText() const { return failed_text_; }
+  // Where that script line stands; no file for a message.
+  const FilePlace& FailedPlace() const { return failed_place_; }
   void ForgetFailure();
 
  private:
@@ -36,14 +38,16 @@ class WorkDepth {
   bool noted_ = false;
   std::string failed_object_;
   std::string failed_text_;
+  FilePlace failed_place_;
 };
 
 // One level of nesting. More than WorkDepth::kLimit levels are fatal, and the message names the
-// work. `text` and `place` must outlive the guard; `place` may be null.
+// work. `text`, `place` and `origin` must outlive the guard; the pointers may be null.
 class DepthGuard {
  public:
-  DepthGuard(WorkDepth& depth, Work work, std::string_view text, const WorkPlace* place = nullptr)
-      : depth_(depth), work_(work), text_(text), place_(place) {
+  DepthGuard(WorkDepth& depth, Work work, std::string_view text, const WorkPlace* place = nullptr,
+             const FilePlace* origin = nullptr)
+      : depth_(depth), work_(work), text_(text), place_(place), origin_(origin) {
     if (depth_.depth_ >= WorkDepth::kLimit) Refuse();
     ++depth_.depth_;
   }
@@ -62,6 +66,7 @@ class DepthGuard {
   Work work_;
   std::string_view text_;
   const WorkPlace* place_;
+  const FilePlace* origin_;
 };
 
 }  // namespace quendle

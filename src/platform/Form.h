@@ -15,8 +15,8 @@ struct Control {
   std::string name;  // "Picture1", "optEasy", "lines"
   int index = 0;     // element of a control array, 0 for a single control
   ControlKind kind = ControlKind::kLabel;
-  std::string text;
-  Rect area;  // in pixels of the form
+  std::string text;  // labels break it into lines inside their area; pictures: the button's word
+  Rect area;         // in pixels of the form
   bool visible = true;
   bool enabled = true;
   int value = 0;        // radio and check: 0 or 1; scroll bar: position
@@ -36,7 +36,7 @@ struct Form {
   std::string caption;
   bool visible = false;
   bool enabled = false;
-  WindowState window_state = WindowState::kNormal;
+  WindowState window_state = WindowState::kNormal;  // a host sets normal when the player does so
   Size size;
   std::vector<Control> controls;
   int focus = -1;  // position in `controls` of the control with the keyboard focus, or -1
@@ -55,6 +55,9 @@ class FormEvents {
   virtual void PointerOverForm() = 0;
   virtual void PointerOver(Control& control) = 0;
   virtual void Press(Control& control, Point at) = 0;  // `at`: pixels of the control
+  // A value chosen otherwise than by a press: a radio or check by a tool (0 or 1), a scroll bar
+  // (its position). The form's logic changes the record.
+  virtual void Set(Control& /*control*/, int /*value*/) {}
   virtual void Key(FormKey key) = 0;
   virtual void QueryClose() = 0;  // the window system asks the form to close
 };

@@ -28,6 +28,8 @@ class Gdi {
   // A bitmap from a file of the content tree (full path), at its own size; 0 when the file is
   // missing or isn't a bitmap that can be read.
   virtual BitmapHandle LoadImageA(const std::string& path) = 0;
+  // Why the last LoadImageA gave 0, for messages; empty when it went well.
+  virtual std::string WhyNotLoaded() const = 0;
   virtual ContextHandle CreateCompatibleDC(ContextHandle like) = 0;
   virtual BitmapHandle CreateCompatibleBitmap(ContextHandle like, int width, int height) = 0;
   // A monochrome bitmap: its pixels are 0 (black) or 1 (white).

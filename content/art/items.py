@@ -1,0 +1,169 @@
+"""Small things: tools, pictograms, buttons, bubbles, letters."""
+
+from animals import bandage_strip
+from shapes import *
+
+
+# --- tools, each about the point (cx, cy), some 60 wide -------------------------------------------
+
+
+def bandaid(cx, cy, s=1.0):
+    """Two sticking plasters crossed: the tool that covers a clean wound."""
+    piece = move(bandage_strip(0, 0, 62, 23), turn=45) + move(bandage_strip(0, 0, 62, 23), turn=-45)
+    return move(piece, cx, cy, size=s)
+
+
+def antiseptic(cx, cy, s=1.0):
+    """A spray bottle: the tool that washes a wound."""
+    out = solid(box(-11, -34, 18, 12, 3), CORAL, 2) + solid("M-15,-34H12Q20,-34 20,-28V-24H8V-26H-15Z", CORAL, 2)
+    out += solid("M-9,-23H5Q6,-14 18,-10Q22,-8 22,-2V28Q22,34 16,34H-18Q-24,34 -24,28V-2Q-24,-8 -20,-10Q-9,-14 -9,-23Z", SKY, 5,
+                 glint=(-15, 8, 3, 14))  # fmt: skip
+    out += solid(box(-16, 0, 31, 25, 6), WHITE, 0, 3) + flat(cross_path(0, 12.5, 9), CORAL)
+    return move(out, cx, cy, size=s)
+
+
+def drops(cx, cy, s=1.0):
+    out = ""
+    for x, y, r in ((0, 0, 5), (12, -9, 5), (14, 6, 5)):
+        out += solid(ellipse(x, y, r), SKY, 0, 2.5)
+    return move(out, cx, cy, size=s)
+
+
+def book(cx, cy, s=1.0):
+    """The medical book, closed."""
+    out = solid(box(-28, -32, 56, 66, 6), shade(CORAL, 0.35), 3)
+    out += solid(box(-22, -28, 50, 58, 3), CREAM, 4, 3)
+    out += stroke("M-18,24H24M-18,28H24", shade(CREAM, 0.3), 2)
+    out += solid("M-28,-32H24Q28,-32 28,-28V18Q28,22 24,22H-28Z", CORAL, 5)
+    out += stroke("M-18,-30V20", shade(CORAL, 0.4), 4)
+    out += solid(ellipse(5, -5, 16), CREAM, 0, 3) + paw_print(5, -6, 11, TEAL)
+    return move(out, cx, cy, size=s)
+
+
+def hand(cx, cy, s=1.0):
+    """A plump hand pointing up; the fingertip is at (-8, -16) for s 1 within 48 by 48."""
+    glove = "M-13,-13Q-13,-20 -8,-20Q-2,-20 -2,-13V-3Q0,-7 4,-6Q8,-5 8,-1Q11,-4 14,-2Q17,0 16,4Q20,4 20,9V12Q20,22 8,22H-2Q-10,22 -14,14L-20,6Q-23,1 -19,-2Q-16,-4 -13,0Z"
+    out = solid(glove, SKIN, 3, 3.5) + stroke("M-2,-3V4M8,-1V5M16,4V8", OUTLINE, 2.5)
+    return move(out, cx, cy, size=s)
+
+
+def cotton(cx, cy, s=1.0):
+    out = solid(box(-24, -26, 48, 56, 10), SKY, 4) + solid(ellipse(-8, 6, 11), WHITE, 2, 3)
+    out += solid(ellipse(9, 12, 11), WHITE, 2, 3) + solid(ellipse(2, -6, 11), WHITE, 2, 3) + solid(box(-28, -36, 56, 14, 6), CORAL, 3)
+    return move(out, cx, cy, size=s)
+
+
+def towels(cx, cy, s=1.0):
+    out = ""
+    for i, colour in enumerate((MINT, PINK, YELLOW)):
+        out += solid(box(-36 + i * 2, 16 - i * 19, 72 - i * 4, 20, 9), colour, 4) + stroke(f"M-26,{26 - i * 19}H10", light(colour, 0.7), 3)
+    return move(out, cx, cy, size=s)
+
+
+# --- pictograms -----------------------------------------------------------------------------------
+
+
+def house(cx, cy, s=1.0):
+    out = solid(box(-20, -4, 40, 28, 3), CREAM, 4) + solid(poly((0, -28), (30, 0), (-30, 0)), CORAL, 4)
+    out += solid(box(-7, 6, 14, 18, 3), DARKWOOD, 2, 3)
+    return move(out, cx, cy, size=s)
+
+
+def dog_face(cx, cy, s=1.0):
+    out = solid(ellipse(0, 0, 27, 25), FUR, 4) + solid("M-20,-18C-36,-22 -40,4 -32,14C-24,16 -20,4 -18,-6Z", "#a9683c", 3)
+    out += solid("M20,-18C36,-22 40,4 32,14C24,16 20,4 18,-6Z", "#a9683c", 3)
+    out += solid(ellipse(0, 10, 15, 11), CREAM, 2, 3) + flat(ellipse(-10, -5, 4, 5.5), OUTLINE) + flat(ellipse(10, -5, 4, 5.5), OUTLINE)
+    out += flat(ellipse(0, 6, 6, 4.5), OUTLINE) + stroke("M-6,13Q0,18 6,13", OUTLINE, 2.5)
+    return move(out, cx, cy, size=s)
+
+
+def tick(cx, cy, s=1.0):
+    return move(stroke("M-16,2L-4,14L18,-14", OUTLINE, 17) + stroke("M-16,2L-4,14L18,-14", WHITE, 9), cx, cy, size=s)
+
+
+def no_cross(cx, cy, s=1.0):
+    d = "M-13,-13L13,13M13,-13L-13,13"
+    return move(stroke(d, OUTLINE, 17) + stroke(d, WHITE, 9), cx, cy, size=s)
+
+
+def triangle(cx, cy, s=1.0):
+    return move(solid("M-14,-22Q-14,-28 -8,-26L24,-5Q30,0 24,5L-8,26Q-14,28 -14,22Z", WHITE, 4), cx, cy, size=s)
+
+
+def arrow(cx, cy, s=1.0, turn=0, fill=WHITE):
+    """A plump arrow to the right, turned by `turn`."""
+    return move(move(solid("M-24,-9H0V-20Q0,-25 5,-22L28,-4Q32,0 28,4L5,22Q0,25 0,20V9H-24Z", fill, 3), turn=turn), cx, cy, size=s)
+
+
+def again(cx, cy, s=1.0, fill=WHITE):
+    """A round arrow: once more."""
+    d = "M16,-12A20,20 0 1 0 20,6"
+    out = stroke(d, OUTLINE, 16) + solid(poly((4, -14), (28, -18), (24, 6)), fill, 0) + stroke(d, fill, 8)
+    return move(out, cx, cy, size=s)
+
+
+def moon(cx, cy, s=1.0):
+    return move(solid("M8,-24A25,25 0 1 0 22,14A20,20 0 1 1 8,-24Z", YELLOW, 4), cx, cy, size=s)
+
+
+def question(cx, cy, s=1.0, fill=CORAL):
+    d = "M-14,-14C-14,-34 16,-34 16,-14C16,0 0,-2 0,14"
+    out = stroke(d, OUTLINE, 18) + stroke(d, fill, 10) + solid(ellipse(0, 32, 8), fill, 0)
+    return move(out, cx, cy, size=s)
+
+
+def cog_button(cx, cy, r, fill, sign):
+    """A round button with a rim, a light above and a sign in the middle."""
+    out = solid(ellipse(cx, cy, r), shade(fill, 0.35), 4)
+    out += solid(ellipse(cx, cy - 3, r - 7), fill, 6, 0)
+    out += flat(ellipse(cx - r * 0.28, cy - r * 0.52, r * 0.34, r * 0.13), light(fill, 0.7))
+    return out + sign
+
+
+# --- speech ---------------------------------------------------------------------------------------
+
+
+def bubble(content):
+    """A speech bubble of 232 by 176 with its tail at the lower right; content about (108, 76)."""
+    d = "M34,8H182Q210,8 210,36V112Q210,138 190,140Q200,156 222,166Q186,166 164,140H34Q8,140 8,112V36Q8,8 34,8Z"
+    return solid(d, WHITE, 6) + content
+
+
+def small_arrow(cx, cy):
+    return arrow(cx, cy, 0.62, fill=YELLOW)
+
+
+# --- letters --------------------------------------------------------------------------------------
+
+# Each letter as strokes in a box of 60 by 80, and its width.
+LETTERS = {
+    "A": ("M4,80L28,4L52,80M14,54H42", 58),
+    "C": ("M52,18C36,-4 4,2 4,40C4,78 36,84 52,62", 58),
+    "I": ("M8,2V80", 16),
+    "L": ("M6,2V78H42", 48),
+    "N": ("M6,80V4L48,78V2", 54),
+    "P": ("M6,80V4H26C56,4 56,46 26,46H8", 50),
+    "W": ("M2,4L18,78L36,20L54,78L70,4", 74),
+    " ": ("", 26),
+}
+
+
+def lettering(text, x, y, size, colours):
+    """Bubble letters from (x, y), `size` times 80 high, dancing a little."""
+    under = over = ""
+    left = 0
+    for i, char in enumerate(text):
+        d, width = LETTERS[char]
+        tilt, hop = ((-4, 0), (3, -5), (-2, 2), (4, -3))[i % 4]
+        if d:
+            place = f'<g transform="translate({n(left)},{hop}) rotate({tilt} 28 40)">'
+            colour = colours[i % len(colours)]
+            under += place + stroke(d, OUTLINE, 32) + "</g>"
+            over += place + stroke(d, shade(colour, 0.25), 23) + f'<g transform="translate(-1.5,-2)">{stroke(d, colour, 18)}</g>'
+            over += f'<g transform="translate(-4,-5)">{stroke(d, light(colour, 0.6), 4, 0.8)}</g></g>'
+        left += width + 24
+    return f'<g transform="translate({n(x)},{n(y)}) scale({n(size)})">{under}{over}</g>'
+
+
+def lettering_width(text, size):
+    return (sum(LETTERS[c][1] + 24 for c in text) - 24) * size

@@ -1,0 +1,412 @@
+"""Every picture of the game: its size and the cells that lie in it.
+
+A sheet is a transparent picture with cells of sprites; a screen is one opaque cell of 800 by 600.
+`SHEETS` maps the path of the made picture, without its ending, to the function that gives it.
+"""
+
+from animals import dog, dog_paw
+from furniture import *
+from items import *
+from people import child_face, doctor, doctor_suit
+from shapes import *
+
+
+class Sheet:
+    """A picture of `columns` cells a row, each `w` by `h`, in the order in which they are added."""
+
+    def __init__(self, w, h, columns):
+        self.w, self.h, self.columns = w, h, columns
+        self.cells = []
+        self.count = self.top = 0
+
+    def add(self, name, piece):
+        x, y = self.count % self.columns * self.w, self.top + self.count // self.columns * self.h
+        self.cells.append((name, x, y, self.w, self.h, piece))
+        self.count += 1
+
+    def below(self, w, h, columns):
+        """The cells added from here on have another size and begin below the last row."""
+        self.top = self.size()[1]
+        self.w, self.h, self.columns, self.count = w, h, columns, 0
+
+    def size(self):
+        return max(x + w for _, x, _, w, _, _ in self.cells), max(y + h for _, _, y, _, h, _ in self.cells)
+
+    def rectangles(self):
+        return [cell[:5] for cell in self.cells]
+
+    def svg(self):
+        width, height = self.size()
+        out = [
+            f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" viewBox="0 0 {width} {height}">',
+            f"<defs>{DEFINITIONS}</defs>",
+        ]
+        for _, x, y, w, h, piece in self.cells:
+            out.append(f'<svg x="{x}" y="{y}" width="{w}" height="{h}" overflow="hidden">{piece}</svg>')
+        out.append("</svg>\n")
+        return "\n".join(out)
+
+
+def screen(piece):
+    sheet = Sheet(800, 600, 1)
+    sheet.add("room", piece)
+    return sheet
+
+
+# --- screens --------------------------------------------------------------------------------------
+
+
+def intro():
+    out = flat("M0,0H800V430H0Z", "url(#sky)")
+    for i in range(12):
+        out += move(flat(poly((0, 0), (520, -26), (520, 26)), "#fff3b8", 0.4), 92, 214, turn=i * 30 + 8)
+    out += solid(ellipse(92, 214, 46), YELLOW, 7, glint=(74, 192, 13, 8))
+    out += shut_eye(77, 212, 8, up=True) + shut_eye(107, 212, 8, up=True) + stroke("M78,227Q92,241 106,227")
+    out += cheek(64, 227, 8, 5) + cheek(120, 227, 8, 5)
+    out += cloud(690, 196, 0.72) + cloud(214, 168, 0.42)
+    out += flat("M0,372Q180,300 400,350T800,330V600H0Z", light(GREEN, 0.35))
+    out += stroke("M0,372Q180,300 400,350T800,330", OUTLINE)
+    out += tree(22, 432, 0.95) + tree(796, 430, 1.05)
+    # The house.
+    out += solid(box(170, 258, 460, 190, 10), CREAM, 10)
+    for x in range(196, 620, 64):
+        out += flat(box(x, 400, 40, 16, 3), PEACH) + flat(box(x - 30, 424, 40, 16, 3), PEACH)
+    tiles = ""
+    for row, y in enumerate((198, 224, 250)):
+        for x in range(132 + (row % 2) * 20, 680, 40):
+            tiles += stroke(f"M{x},{y}Q{x + 16},{y + 14} {x + 32},{y}", shade(CORAL, 0.4), 3)
+    out += solid("M140,268L214,176H586L660,268Q664,278 652,278H148Q136,278 140,268Z", CORAL, 9, inside=tiles)
+    out += solid(ellipse(400, 226, 44), WHITE, 6) + paw_print(400, 222, 30, CORAL)
+    for x in (206, 510):
+        out += window(x, 306, 84, 78) + solid(box(x - 12, 394, 108, 22, 6), DARKWOOD, 3)
+        for i, colour in enumerate((PINK, YELLOW, CORAL, WHITE)):
+            out += flower(x + 6 + i * 24, 398, colour, 0.62)
+    out += flat("M0,440Q400,404 800,440V600H0Z", GREEN) + stroke("M0,440Q400,404 800,440", OUTLINE)
+    out += solid("M346,424H454L540,604H260Z", PEACH, 0)
+    out += solid(box(340, 300, 120, 130, 8), CREAM, 4) + solid("M352,430V332Q352,310 374,310H426Q448,310 448,332V430Z", TEAL, 6)
+    out += solid(ellipse(400, 350, 22), "#ffe9a6", 3) + solid(ellipse(436, 386, 6), YELLOW, 0, 3)
+    for x, y, c in ((40, 520, PINK), (96, 566, YELLOW), (214, 486, WHITE), (596, 492, PINK), (700, 508, WHITE), (768, 556, YELLOW), (240, 572, CORAL), (566, 574, CORAL)):
+        out += flower(x, y, c, 0.95)
+    width = lettering_width("PAW CLINIC", 1.0)
+    out += lettering("PAW CLINIC", 400 - width / 2, 44, 1.0, (CORAL, ORANGE, YELLOW, GREEN, TEAL, PINK))
+    out += shadow(104, 566, 90, 12)
+    out += move(dog("happy", "bandaid", 1), -18, 280, size=0.82, about=(120, 284))
+    out += shadow(694, 574, 72, 11) + move(doctor("open", "smile", "up"), 600, 248)
+    return screen(out)
+
+
+def hall():
+    out = wall(PEACH, "dots")
+    out += bunting(10, 436, 14, (CORAL, YELLOW, TEAL, GREEN, PINK))
+    out += window(476, 92, 112, 118) + curtains(476, 92, 112, 118, TEAL)
+    out += sunbeam(((476, 232), (588, 232), (560, 458), (400, 458)))
+    out += clock(716, 76, 40)
+    out += rug(300, 484, 250, 17, CORAL, YELLOW)
+    for x in (84, 229, 374):
+        out += shadow(x, 461, 66, 5)
+    out += shadow(540, 476, 92, 9) + desk(468, 370, 136, 106, WOOD)
+    out += bell(588, 363)
+    out += shadow(700, 482, 66, 8)
+    return screen(out)
+
+
+def dogroom():
+    out = wall(SKY, "hearts")
+    out += window(36, 80, 116, 112) + curtains(36, 80, 116, 112, YELLOW)
+    out += sunbeam(((36, 214), (152, 214), (330, 458), (120, 458)))
+    out += poster(200, 60, 84, 104, bone(242, 114, 0.84, -30), PINK)
+    out += poster(446, 190, 78, 96, heart(485, 240, 20), CREAM)
+    out += lamp(716, 40)
+    out += rug(340, 484, 250, 17, TEAL, CREAM)
+    out += shadow(84, 461, 66, 5) + shadow(346, 480, 160, 9)
+    out += table(194, 390, 304, 92, CORAL)
+    out += shadow(176, 482, 28, 5) + ball(176, 464, 20) + shadow(548, 484, 38, 6) + bowl(548, 472)
+    out += shadow(700, 482, 66, 8)
+    return screen(out)
+
+
+def emptyroom():
+    out = wall(MINT, "stars")
+    out += poster(38, 70, 92, 112, cross_sign(84, 128), YELLOW)
+    out += shadow(84, 461, 66, 5) + rug(380, 484, 230, 16, GREEN, YELLOW)
+    out += shadow(378, 474, 200, 9)
+    out += cupboard(186, 70, 380, 404, WOOD)
+    for y in (230, 400):
+        out += solid(box(202, y, 348, 18, 5), shade(WOOD, 0.1), 4)
+    out += towels(268, 192) + cotton(388, 192) + cotton(456, 200, 0.78) + plant(516, 230, 0.62)
+    out += solid(box(222, 424, 130, 34, 8), shade(WOOD, 0.05), 3) + solid(box(398, 424, 130, 34, 8), shade(WOOD, 0.05), 3)
+    out += solid(ellipse(287, 441, 8), YELLOW, 0, 3) + solid(ellipse(463, 441, 8), YELLOW, 0, 3)
+    out += lamp(700, 30)
+    out += shadow(700, 482, 66, 8)
+    return screen(out)
+
+
+def cross_sign(cx, cy):
+    return solid(cross_path(cx, cy, 30), CORAL, 4)
+
+
+def bookscreen():
+    out = wall(LAVENDER, "stars")
+    out += solid(box(40, 30, 720, 470, 26), shade(CORAL, 0.1), 9)
+    page = "M400,62C330,34 160,36 72,58V466C160,446 330,444 400,472Z"
+    other = "M400,62C470,34 640,36 728,58V466C640,446 470,444 400,472Z"
+    out += solid(page, CREAM, 0) + solid(other, CREAM, 0)
+    out += flat("M340,49C364,52 386,56 400,62C414,56 436,52 460,49V455C436,460 414,464 400,472C386,464 364,460 340,455Z", "url(#gutter)") + stroke("M400,62V472")
+    for dx in (7, 13):
+        out += stroke(f"M{76},{462 + dx}C160,{443 + dx} 330,{441 + dx} 400,{468 + dx}C470,{441 + dx} 640,{443 + dx} 724,{462 + dx}", shade(CREAM, 0.3), 3)
+    for y, tool, paw, mood in ((52, antiseptic, "clean", "hope"), (258, bandaid, "bandaid", "joy")):
+        left_paw = "cut" if tool is antiseptic else "clean"
+        left_mood = "sad" if tool is antiseptic else "hope"
+        out += move(dog(left_mood, left_paw), 78, y + 8, size=0.6)
+        out += cross_plus(252, y + 106) + tool(316, y + 106, 1.15)
+        out += arrow(416, y + 106, 0.8, fill=YELLOW)
+        out += move(dog(mood, paw, 1), 496, y + 8, size=0.6)
+    out += heart(668, 304, 15) + heart(690, 346, 10, PINK) + sparkle(668, 96, 16) + sparkle(690, 140, 11)
+    return screen(out)
+
+
+def cross_plus(cx, cy):
+    return solid(cross_path(cx, cy, 17, 0.34), GREEN, 3)
+
+
+# --- sprites --------------------------------------------------------------------------------------
+
+
+def add_states(sheet, name, piece):
+    """The three looks of a button: at rest, under the pointer, pressed."""
+    sheet.add(name, piece)
+    sheet.add(name + "-glow", glowing(piece))
+    sheet.add(name + "-pressed", pressed(piece))
+
+
+def intro_buttons():
+    sheet = Sheet(184, 184, 3)
+    add_states(sheet, "start", cog_button(92, 92, 80, GREEN, triangle(92, 88, 1.5)))
+    return sheet
+
+
+def intro_small():
+    sheet = Sheet(104, 104, 3)
+    add_states(sheet, "fresh", cog_button(52, 52, 42, ORANGE, again(50, 48, 0.9)))
+    add_states(sheet, "quit", cog_button(52, 52, 42, LAVENDER, moon(52, 49, 0.85)))
+    return sheet
+
+
+def yes_no():
+    sheet = Sheet(124, 124, 3)
+    add_states(sheet, "yes", cog_button(62, 62, 50, GREEN, tick(62, 58, 1.15)))
+    add_states(sheet, "no", cog_button(62, 62, 50, CORAL, no_cross(62, 58, 1.15)))
+    return sheet
+
+
+def panel(sign):
+    """A board of 440 by 310 on which yes and no stand, with a sign above them."""
+    return solid(box(8, 8, 424, 294, 34), CREAM, 8) + stroke(box(24, 24, 392, 262, 24), YELLOW, 5) + sign
+
+
+def exit_panel():
+    sheet = Sheet(440, 310, 1)
+    night = solid(box(54, 46, 190, 104, 18), "#5b6bb0", 5, inside=flat(ellipse(84, 74, 3), CREAM) + flat(ellipse(222, 66, 3), CREAM) + flat(ellipse(130, 62, 2), CREAM))
+    sheet.add("panel", panel(night + moon(108, 98, 0.85) + house(190, 104, 1.1) + dog_face(304, 100, 1.05) + question(378, 90, 0.95)))
+    return sheet
+
+
+def fresh_panel():
+    sheet = Sheet(440, 310, 1)
+    sheet.add("panel", panel(dog_face(110, 100, 1.2) + cog_button(220, 98, 44, ORANGE, again(218, 94, 0.95)) + question(336, 92, 1.05)))
+    return sheet
+
+
+def doors():
+    sheet = Sheet(132, 234, 2)
+    kinds = (
+        ("out", CORAL, sign_plate(house(66, 84, 1.0))),
+        ("dog", TEAL, sign_plate(dog_face(66, 84, 0.95))),
+        ("shelf", ORANGE, sign_plate(bandaid(66, 84, 0.9))),
+        ("hall", YELLOW, sign_plate(hall_sign(66, 84))),
+    )
+    for name, colour, sign in kinds:
+        sheet.add(name, door_leaf(colour, sign))
+        sheet.add(name + "-open", glowing(door_leaf(colour, sign, open_door=True), 0))
+    return sheet
+
+
+def hall_sign(cx, cy):
+    """The hall's pictogram: an arrow back."""
+    return arrow(cx - 2, cy, 0.95, turn=180, fill=TEAL)
+
+
+def medicalbook():
+    sheet = Sheet(96, 92, 2)
+    lying = move(book(48, 46, 1.05), turn=-8, about=(48, 46))
+    sheet.add("book", lying)
+    sheet.add("book-glow", glowing(lying))
+    return sheet
+
+
+def doctor_sheet():
+    sheet = Sheet(202, 342, 5)
+    looks = (
+        ("stand", doctor()), ("blink", doctor("shut")), ("talk1", doctor("open", "talk", "up")), ("talk2", doctor("open", "smile", "up")),
+        ("praise1", doctor("joy", "talk", "up")), ("praise2", doctor("joy", "smile", "up")), ("oops1", doctor("open", "oh")), ("oops2", doctor("shut", "oh")),
+    )  # fmt: skip
+    for name, piece in looks:
+        sheet.add(name, move(piece, 6, 6))
+    sheet.add("stand-glow", glowing(move(doctor(), 6, 7)))
+    sheet.add("blink-glow", glowing(move(doctor("shut"), 6, 7)))
+    sheet.below(232, 176, 4)
+    for name, piece in bubble_contents():
+        sheet.add("bubble-" + name, bubble(piece))
+    return sheet
+
+
+def bubble_contents():
+    """What the doctor says, in pictures."""
+
+    def paw(cx, cy, kind):
+        return move(dog_paw(0, 0, kind), cx, cy)
+
+    return (
+        ("book", book(88, 76, 1.25) + sparkle(142, 44, 13) + sparkle(152, 104, 10)),
+        ("read", hand(54, 80, 1.3) + small_arrow(106, 76) + book(164, 76, 1.0)),
+        ("patient", question(46, 70, 0.9) + dog_face(102, 76, 0.95) + bandaid(172, 76, 0.8)),
+        ("shelf", hand(54, 84, 1.3) + antiseptic(112, 74, 1.0) + bandaid(172, 76, 0.85)),
+        ("lift", arrow(76, 74, 1.1, turn=-90, fill=YELLOW) + arrow(146, 74, 1.1, turn=90, fill=YELLOW)),
+        ("item", hand(52, 76, 1.25) + small_arrow(104, 76) + bandaid(166, 76, 0.95)),
+        ("full", towels(108, 88, 0.8) + bandaid(70, 44, 0.55) + antiseptic(112, 38, 0.5) + bandaid(152, 44, 0.55)),
+        ("same", solid(box(34, 40, 76, 74, 18), light(WOOD, 0.25), 0) + bandaid(72, 77, 0.9) + cog_button(158, 76, 34, GREEN, tick(158, 73, 0.85))),
+        ("retry", again(72, 74, 1.3, YELLOW) + dog_face(152, 76, 0.95)),
+        ("over", again(60, 74, 1.1, ORANGE) + small_arrow(108, 76) + paw(162, 76, "cut")),
+        ("dog", paw(52, 78, "cut") + small_arrow(104, 78) + antiseptic(160, 74, 1.1)),
+        ("dog-clean", paw(52, 78, "clean") + small_arrow(108, 78) + bandaid(164, 76, 0.95)),
+        ("dog-well", dog_face(80, 80, 1.15) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
+        ("antiseptic", antiseptic(60, 74, 1.15) + small_arrow(110, 78) + paw(162, 78, "cut")),
+        ("bandaid", bandaid(54, 76, 0.9) + small_arrow(106, 78) + paw(162, 78, "clean")),
+        ("home", house(70, 80, 1.2) + small_arrow(124, 80) + dog_face(170, 80, 0.8)),
+    )
+
+
+def dog_sheet():
+    sheet = Sheet(256, 300, 5)
+    sheet.add("sad1", dog("sad", "cut"))
+    sheet.add("sad2", dog("sad", "cut", breath=3))
+    sheet.add("sad3", dog("blink", "cut", breath=3))
+    sheet.add("sad1-glow", glowing(dog("sad", "cut"), 2))
+    sheet.add("sad2-glow", glowing(dog("sad", "cut", breath=3), 2))
+    sheet.add("ow1", dog("ow", "cut", -1))
+    sheet.add("ow2", move(dog("ow", "cut", -1, breath=3), 3, 0))
+    sheet.add("hope1", dog("hope", "clean"))
+    sheet.add("hope2", dog("hope", "clean", breath=3))
+    sheet.add("hope3", dog("hopeblink", "clean", breath=3))
+    sheet.add("hope1-glow", glowing(dog("hope", "clean"), 2))
+    sheet.add("hope2-glow", glowing(dog("hope", "clean", breath=3), 2))
+    sheet.add("ouch1", dog("ow", "clean", -1))
+    sheet.add("ouch2", move(dog("ow", "clean", -1, breath=3), 3, 0))
+    sheet.add("happy1", dog("happy", "bandaid", 1))
+    sheet.add("happy2", dog("happy", "bandaid", 0, breath=2))
+    sheet.add("happy3", dog("joy", "bandaid", 1, breath=2))
+    sheet.add("happy1-glow", glowing(dog("happy", "bandaid", 1), 2))
+    sheet.add("happy2-glow", glowing(dog("happy", "bandaid", 0, breath=2), 2))
+    for i, (hop, tail) in enumerate(((0, 1), (14, 0), (22, 1), (14, 0), (0, 1))):
+        hearts = heart(30, 60 - i * 7, 10 + i) + heart(222, 50 - i * 5, 8 + i, PINK) if i else ""
+        sheet.add(f"jump{i + 1}", dog("joy", "bandaid", tail, hop=hop) + hearts)
+    return sheet
+
+
+def shelf_items():
+    sheet = Sheet(104, 112, 3)
+    box_piece = solid(box(12, 34, 80, 68, 8), WHITE, 6) + solid(box(12, 34, 80, 16, 6), CORAL, 3) + bandaid(52, 76, 0.62)
+    box_piece = solid(poly((20, 34), (34, 12), (70, 12), (84, 34)), CORAL, 4) + move(bandage_strip(0, 0, 46, 18), 52, 22, turn=-14) + box_piece
+    for name, piece in (("bandaid", box_piece), ("antiseptic", antiseptic(50, 58, 1.3))):
+        sheet.add(name, piece)
+        sheet.add(name + "-glow", glowing(piece))
+        taken = move(piece, 0, -4) + sparkle(18, 18, 13, YELLOW) + sparkle(88, 26, 10, WHITE) + sparkle(86, 90, 12, YELLOW)
+        sheet.add(name + "-taken", taken)
+    return sheet
+
+
+def tool_bar():
+    sheet = Sheet(800, 110, 1)
+    out = solid("M-10,6H810V120H-10Z", WOOD, 0)
+    out += flat("M0,8H800V20H0Z", light(WOOD, 0.4)) + stroke("M0,22H800", shade(WOOD, 0.4), 3)
+    out += flat("M0,98H800V110H0Z", shade(WOOD, 0.3)) + stroke("M0,96H800", shade(WOOD, 0.5), 3)
+    for i in range(6):
+        out += solid(box(60 + i * 85 - 2, 28, 76, 64, 16), shade(WOOD, 0.22), 0, 0) + flat(box(60 + i * 85 - 2, 31, 76, 61, 16), light(WOOD, 0.25))
+    out += paw_print(724, 60, 22, shade(WOOD, 0.25)) + paw_print(772, 52, 14, shade(WOOD, 0.25))
+    sheet.add("bar", out)
+    return sheet
+
+
+def tools():
+    sheet = Sheet(72, 84, 3)
+    for name, piece in (("hand", hand(38, 42, 1.35)), ("medicalbook", book(36, 42, 0.92)), ("bandaid", bandaid(36, 42, 0.95)), ("antiseptic", antiseptic(37, 42, 0.92))):
+        add_states(sheet, name, piece)
+    return sheet
+
+
+def scroll_buttons():
+    sheet = Sheet(68, 84, 3)
+    small = solid(box(7, 10, 32, 62, 14), TEAL, 5) + move(arrow(0, 0, 0.5, turn=180), 23, 41)
+    wide = solid(box(7, 10, 54, 62, 18), TEAL, 5) + move(arrow(0, 0, 0.75), 34, 41)
+    add_states(sheet, "left", small)
+    add_states(sheet, "right", wide)
+    return sheet
+
+
+def cursors():
+    sheet = Sheet(64, 64, 3)
+    sheet.add("hand", hand(24, 25, 1.0))
+    sheet.add("bandaid", bandaid(32, 32, 0.8))
+    sheet.add("antiseptic", move(antiseptic(34, 33, 0.78), size=(-1, 1), about=(34, 33)) + drops(6, 12, 0.62))
+    return sheet
+
+
+def book_back():
+    sheet = Sheet(112, 84, 3)
+    add_states(sheet, "back", solid(box(8, 10, 96, 62, 26), GREEN, 6) + arrow(55, 41, 1.0, turn=180))
+    return sheet
+
+
+def person_face():
+    sheet = Sheet(32, 32, 1)
+    sheet.add("face", child_face(16, 17, 15))
+    return sheet
+
+
+def person_suit():
+    sheet = Sheet(64, 96, 1)
+    sheet.add("suit", doctor_suit())
+    return sheet
+
+
+def person_doctor():
+    sheet = Sheet(64, 128, 1)
+    sheet.add("person", move(doctor_suit(), 0, 32) + child_face(32, 17, 15))
+    return sheet
+
+
+SHEETS = {
+    "Info/Intro/intro": intro,
+    "Info/Intro/start": intro_buttons,
+    "Info/Intro/small": intro_small,
+    "Info/Intro/freshpanel": fresh_panel,
+    "Info/Floor1/hall1/hall": hall,
+    "Info/Floor1/hall1/medicalbook": medicalbook,
+    "Info/Floor1/dogroom/room": dogroom,
+    "Info/Floor1/dogroom/dog": dog_sheet,
+    "Info/Floor1/emptyroom1/room": emptyroom,
+    "Info/Floor1/emptyroom1/items": shelf_items,
+    "Info/Book/book": bookscreen,
+    "Info/Book/back": book_back,
+    "Info/Doctor/doctor": doctor_sheet,
+    "Info/GlobalReferences/images/doors": doors,
+    "Info/GlobalReferences/images/yesno": yes_no,
+    "Info/GlobalReferences/images/person/face": person_face,
+    "Info/GlobalReferences/images/person/doctorsuit": person_suit,
+    "Info/GlobalReferences/images/person/doctor": person_doctor,
+    "Info/Tools/bar": tool_bar,
+    "Info/Tools/tool": tools,
+    "Info/Tools/scroll": scroll_buttons,
+    "Info/Cursors/cursors": cursors,
+    "Info/Cursors/exitpanel": exit_panel,
+}

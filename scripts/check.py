@@ -1,0 +1,196 @@
+#!/usr/bin/env python3
+"""Every test of the project, step by step. Called by ./check, which installs what this needs.
+
+Each step prints what it does and how long it took; the output of a step that failed is shown, and
+all of it is kept in build/check/. The last line is `N passed, N failed`: one for each unit test and
+scenario (in release and again under the sanitizers) and one for each other step.
+"""
+
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import time
+import xml.etree.ElementTree as ElementTree
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+LOGS = ROOT / "build/check"
+BIN = ROOT / "build/release/bin"
+JOBS = str(len(os.sched_getaffinity(0)))
+SHOWN_LINES = 120
+QUIET_SECONDS = 30
+
+
+def run(name, *command):
+    """Runs a command into build/check/NAME.log; prints a sign of life now and then.
+    Returns whether it succeeded; shows the end of the log if it didn't."""
+    log = LOGS / f"{name}.log"
+    spoke = time.monotonic()
+    with log.open("a") as out:
+        process = subprocess.Popen([str(word) for word in command], cwd=ROOT, text=True,
+                                   errors="replace", stdout=subprocess.PIPE,
+                                   stderr=subprocess.STDOUT)
+        for line in process.stdout:
+            out.write(line)
+            if time.monotonic() - spoke > QUIET_SECONDS:
+                spoke = time.monotonic()
+                print("   ...", line.rstrip()[:100], flush=True)
+    if process.wait() != 0:
+        show(log)
+    return process.returncode == 0
+
+
+def show(log):
+    lines = log.read_text(errors="replace").splitlines()
+    first = next((i for i, line in enumerate(lines) if line.startswith("FAILED:")), 0)
+    shown = lines[first:first + SHOWN_LINES] if first else lines[-SHOWN_LINES:]
+    print("\n".join("   | " + line for line in shown))
+
+
+def sources(*tops, suffixes=(".h", ".cpp")):
+    return sorted(p for top in tops for p in (ROOT / top).rglob("*") if p.suffix in suffixes)
+
+
+def step_format():
+    """Formatting, compared with what clang-format makes"""
+    files = sources("src", "apps", "tests", "bench", "fuzz")
+    return run("format", "clang-format", "--dry-run", "--Werror", *files), 1
+
+
+def step_rooms():
+    """The include rule between rooms"""
+    script = ROOT / "scripts/check_rooms.py"
+    return (run("rooms", sys.executable, script, "--self-test")
+            and run("rooms", sys.executable, script)), 1
+
+
+def step_packages():
+    """Each package that is installed has its reason in the README"""
+    setup = (ROOT / "scripts/setup.sh").read_text()
+    names = setup.split("packages=(")[1].split(")")[0].split()
+    readme = (ROOT / "README.md").read_text()
+    missing = [name for name in names if f"`{name}`" not in readme]
+    if missing:
+        print("   not in the README's table:", *missing)
+    return not missing, 1
+
+
+def step_build():
+    """The release build, warnings as errors, and the demo content"""
+    return (run("build", "cmake", "--preset", "release")
+            and run("build", "cmake", "--build", "--preset", "release", "-j", JOBS)
+            and run("build", "cmake", "--build", "--preset", "release", "--target", "content")), 1
+
+
+def step_tidy():
+    """clang-tidy, the checks of .clang-tidy"""
+    database = json.loads((ROOT / "build/release/compile_commands.json").read_text())
+    built = {entry["file"] for entry in database}
+    files = [str(p) for p in sources("src", "apps", suffixes=(".cpp",)) if str(p) in built]
+    listing = LOGS / "tidy.files"
+    listing.write_text("\n".join(files))
+    return run("tidy", "xargs", "-a", listing, "-P", JOBS, "-n", "4",
+               "clang-tidy", "-p", "build/release", "--quiet"), 1
+
+
+def step_tests():
+    """Unit tests and scenarios, release build"""
+    return run_tests("release")
+
+
+def step_content():
+    """The demo content, verified"""
+    verify = [BIN / "quendle", "verify", BIN]
+    if knows_command("verify"):
+        return run("content", *verify), 1
+    # Until the tool belt verifies content, every screen is entered in both editions.
+    return run("content", sys.executable, ROOT / "scripts/visit_screens.py", BIN), 1
+
+
+def step_sanitizers():
+    """Unit tests and scenarios under the address and undefined-behaviour sanitizers"""
+    if not (run("asan-build", "cmake", "--preset", "asan")
+            and run("asan-build", "cmake", "--build", "--preset", "asan", "-j", JOBS)):
+        return False, 1
+    return run_tests("asan")
+
+
+STEPS = {function.__name__.removeprefix("step_"): function for function in (
+    step_format, step_rooms, step_packages, step_build, step_tidy, step_tests, step_content,
+    step_sanitizers)}
+NEED_BUILD = {"tidy", "tests", "content", "sanitizers"}
+
+
+def knows_command(word):
+    helped = subprocess.run([BIN / "quendle", word, "--help"], capture_output=True, check=False)
+    return helped.returncode == 0
+
+
+def run_tests(preset):
+    """Runs ctest; returns (all well, (passed, failed)) counted test by test."""
+    reports = ROOT / "build" / preset / "reports"
+    shutil.rmtree(reports, ignore_errors=True)
+    summary = LOGS / f"{preset}-tests.xml"
+    summary.unlink(missing_ok=True)
+    well = run(f"{preset}-tests", "ctest", "--preset", preset, "-j", JOBS,
+               "--output-junit", summary)
+    if not summary.exists():
+        return False, 1
+    passed = failed = 0
+    for case in ElementTree.parse(summary).getroot().iter("testcase"):
+        good = case.get("status") == "run"
+        counted = unit_counts(reports / f"{case.get('name')}.json")
+        if counted is None:
+            counted = (1, 0) if good else (0, 1)
+        elif not good and counted[1] == 0:
+            counted = (counted[0], 1)  # all tests passed, and the process failed: a leak, say
+        passed += counted[0]
+        failed += counted[1]
+    if not well and failed == 0:
+        failed = 1  # the runner itself failed: no tests found, for one
+    return well and failed == 0, (passed, failed)
+
+
+def unit_counts(report):
+    """(passed, failed) of one test executable's own report, or None without one."""
+    try:
+        told = json.loads(report.read_text())
+    except (OSError, ValueError):
+        return None
+    failed = told["failures"] + told["errors"]
+    return told["tests"] - told["disabled"] - failed, failed
+
+
+def main():
+    wanted = sys.argv[1:] or list(STEPS)
+    unknown = [word for word in wanted if word not in STEPS]
+    if unknown:
+        print("no such step:", *unknown, "- steps:", *STEPS)
+        return 2
+    if NEED_BUILD.intersection(wanted):
+        wanted.append("build")
+    shutil.rmtree(LOGS, ignore_errors=True)
+    LOGS.mkdir(parents=True)
+    passed, failed, built = 0, 0, True
+    for name, function in ((n, f) for n, f in STEPS.items() if n in wanted):
+        print(f"== {name}: {function.__doc__}", flush=True)
+        started = time.monotonic()
+        if name in NEED_BUILD and not built:
+            print("   FAILED: the build failed")
+            failed += 1
+            continue
+        well, counts = function()
+        if name == "build":
+            built = well
+        gained, lost = counts if isinstance(counts, tuple) else (int(well), int(not well))
+        passed, failed = passed + gained, failed + lost
+        print(f"   {'ok' if well else 'FAILED'}: {gained} passed, {lost} failed, "
+              f"{time.monotonic() - started:.0f} s", flush=True)
+    print(f"{passed} passed, {failed} failed")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,47 @@
+# Sourced by ./play and ./check: installs the Debian packages that are missing, and says so.
+# Nothing is touched when all are there.
+
+packages=(
+  g++ cmake ninja-build ccache pkg-config
+  libsdl2-dev libsdl2-ttf-dev libfontconfig-dev fonts-liberation
+  libcli11-dev nlohmann-json3-dev libpng-dev
+  librsvg2-bin python3
+  libgtest-dev libgmock-dev clang-format clang-tidy
+)
+
+say() { printf '%s\n' "== $*"; }
+
+missing_packages() {
+  local installed package
+  # dpkg-query fails when it knows a package not at all: that is an answer, not an error.
+  installed=$({ dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null ||
+                true; } | sed -n 's/^installed //p')
+  for package in "${packages[@]}"; do
+    grep -qxF -- "$package" <<<"$installed" || printf '%s\n' "$package"
+  done
+}
+
+install_missing_packages() {
+  local missing as_root=()
+  if ! command -v dpkg-query >/dev/null; then
+    say "This is no Debian system: install the counterparts of: ${packages[*]}"
+    return 0
+  fi
+  mapfile -t missing < <(missing_packages)
+  if ((${#missing[@]} == 0)); then
+    say "All needed packages are installed"
+    return 0
+  fi
+  if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+      say "Missing packages, and neither root nor sudo to install them. Run as root:"
+      printf '   apt-get install --no-install-recommends %s\n' "${missing[*]}"
+      return 1
+    fi
+    as_root=(sudo)
+  fi
+  say "Installing with apt-get${as_root:+ (sudo may ask for your password)}: ${missing[*]}"
+  "${as_root[@]}" apt-get -q update &&
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+      apt-get -q -y install --no-install-recommends "${missing[@]}"
+}

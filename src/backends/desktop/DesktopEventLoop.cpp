@@ -1,0 +1,120 @@
+#include "backends/desktop/DesktopEventLoop.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+
+namespace quendle {
+namespace {
+
+constexpr int kLongestSleep = 500;
+
+// The number of the window an event is for; 0 for events that are for all.
+Uint32 WindowOf(const SDL_Event& event) {
+  switch (event.type) {
+    case SDL_WINDOWEVENT:
+      return event.window.windowID;
+    case SDL_KEYDOWN:
+    case SDL_KEYUP:
+      return event.key.windowID;
+    case SDL_TEXTINPUT:
+      return event.text.windowID;
+    case SDL_MOUSEMOTION:
+      return event.motion.windowID;
+    case SDL_MOUSEBUTTONDOWN:
+    case SDL_MOUSEBUTTONUP:
+      return event.button.windowID;
+    default:
+      return 0;
+  }
+}
+
+bool IsInput(const SDL_Event& event) {
+  if (event.type == SDL_WINDOWEVENT) {
+    return event.window.event == SDL_WINDOWEVENT_CLOSE ||
+           event.window.event == SDL_WINDOWEVENT_LEAVE;
+  }
+  return event.type == SDL_KEYDOWN || event.type == SDL_KEYUP || event.type == SDL_TEXTINPUT ||
+         event.type == SDL_MOUSEMOTION || event.type == SDL_MOUSEBUTTONDOWN ||
+         event.type == SDL_MOUSEBUTTONUP;
+}
+
+bool IsUpkeep(const SDL_Event& event) {
+  return event.type == SDL_WINDOWEVENT || event.type == SDL_RENDER_TARGETS_RESET ||
+         event.type == SDL_RENDER_DEVICE_RESET;
+}
+
+// Of moves that queue up only the last tells where the pointer is.
+bool IsOvertaken(const SDL_Event& event) {
+  if (event.type != SDL_MOUSEMOTION) return false;
+  SDL_Event next;
+  int waiting = SDL_PeepEvents(&next, 1, SDL_PEEKEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT);
+  return waiting == 1 && next.type == SDL_MOUSEMOTION &&
+         next.motion.windowID == event.motion.windowID && next.motion.state == event.motion.state;
+}
+
+}  // namespace
+
+void DesktopEventLoop::Run(const std::function<bool()>& done) {
+  std::string fired;
+  while (!done()) {
+    if (HandleWaiting(done)) return;
+    if (timers_.FireNext(clock_.Monotonic(), fired)) continue;
+    SettleAll();
+    SDL_WaitEventTimeout(nullptr, SleepMilliseconds());
+  }
+}
+
+// Handles the events that wait; true if `done` came to hold.
+bool DesktopEventLoop::HandleWaiting(const std::function<bool()>& done) {
+  SDL_Event event;
+  while (SDL_PollEvent(&event) != 0) {
+    if (IsOvertaken(event)) continue;
+    Dispatch(event);
+    if (done()) return true;
+  }
+  return false;
+}
+
+void DesktopEventLoop::Dispatch(const SDL_Event& event) {
+  // Held while they are called: a target may be dropped by its own event.
+  std::vector<std::shared_ptr<SdlEventTarget>> targets = Targets();
+  if (event.type == SDL_QUIT) {
+    for (const auto& target : targets) {
+      if (TakesInput(*target)) target->HandleQuit();
+    }
+    return;
+  }
+  Uint32 window = WindowOf(event);
+  for (const auto& target : targets) {
+    if (window != 0 && target->WindowId() != window) continue;
+    if (IsUpkeep(event)) target->HandleUpkeep(event);
+    if (IsInput(event) && TakesInput(*target)) target->HandleInput(event);
+  }
+}
+
+void DesktopEventLoop::SettleAll() {
+  for (const auto& target : Targets()) target->Settle();
+}
+
+int DesktopEventLoop::SleepMilliseconds() {
+  Milliseconds due{0};
+  if (!timers_.NextDue(due)) return kLongestSleep;
+  auto wait = (due - clock_.Monotonic()).count();
+  return static_cast<int>(std::clamp<decltype(wait)>(wait, 0, kLongestSleep));
+}
+
+std::vector<std::shared_ptr<SdlEventTarget>> DesktopEventLoop::Targets() {
+  std::vector<std::shared_ptr<SdlEventTarget>> alive;
+  std::erase_if(targets_, [](const auto& target) { return target.expired(); });
+  for (const auto& target : targets_) {
+    if (auto held = target.lock()) alive.push_back(std::move(held));
+  }
+  return alive;
+}
+
+bool DesktopEventLoop::TakesInput(const SdlEventTarget& target) const {
+  return modal_.empty() || modal_.back() == &target;
+}
+
+}  // namespace quendle

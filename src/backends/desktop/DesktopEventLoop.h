@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "backends/desktop/SdlEventTarget.h"
+#include "base/TimerQueue.h"
+#include "platform/TimerService.h"
+
+namespace quendle {
+
+// The program's one loop, on one thread: input first, then one due tick, then sleep until either
+// comes. It runs nested while a box stands. Engine code runs only from here, never inside a
+// callback of a library, so its exceptions leave through Run.
+class DesktopEventLoop {
+ public:
+  // `clock` outlives the loop.
+  explicit DesktopEventLoop(Clock& clock) : clock_(clock), timers_(clock) {}
+
+  TimerService& Timers() { return timers_; }
+
+  // Targets take events while they live.
+  void Add(const std::shared_ptr<SdlEventTarget>& target) { targets_.push_back(target); }
+
+  // Runs until `done` holds; it is asked after every event and tick.
+  void Run(const std::function<bool()>& done);
+
+  // While it lives, input reaches one target alone.
+  class Modal {
+   public:
+    Modal(DesktopEventLoop& loop, SdlEventTarget& target) : loop_(loop) {
+      loop_.modal_.push_back(&target);
+    }
+    ~Modal() { loop_.modal_.pop_back(); }
+    Modal(const Modal&) = delete;
+    Modal& operator=(const Modal&) = delete;
+
+   private:
+    DesktopEventLoop& loop_;
+  };
+
+ private:
+  bool HandleWaiting(const std::function<bool()>& done);
+  void Dispatch(const SDL_Event& event);
+  void SettleAll();
+  int SleepMilliseconds();
+  std::vector<std::shared_ptr<SdlEventTarget>> Targets();
+  bool TakesInput(const SdlEventTarget& target) const;
+
+  Clock& clock_;
+  TimerQueue timers_;
+  std::vector<std::weak_ptr<SdlEventTarget>> targets_;
+  std::vector<SdlEventTarget*> modal_;
+};
+
+}  // namespace quendle

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "backends/desktop/DesktopEventLoop.h"
+#include "backends/desktop/FormWindow.h"
+#include "platform/FormHost.h"
+
+namespace quendle {
+
+// Shows the form that is visible and enabled in the one window that all forms share.
+class DesktopFormHost : public FormHost {
+ public:
+  // Both outlive the host.
+  DesktopFormHost(DesktopEventLoop& loop, FormPainter& painter);
+
+  void Add(Form& form, FormEvents& events) override;
+  void Remove(Form& form) override;
+  // A form that can't be shown for lack of a display is fatal.
+  void Update(Form& form) override;
+
+  bool ShowsForm() const { return window_->Shown() != nullptr; }
+  void Flash() { window_->Flash(); }
+
+ private:
+  // Follows the records at the end of an event, when one form is hidden and the next one shown:
+  // so that the window goes from the one to the other without closing.
+  class Switch : public SdlEventTarget {
+   public:
+    explicit Switch(DesktopFormHost& host) : host_(host) {}
+    std::uint32_t WindowId() const override { return 0; }
+    void HandleInput(const SDL_Event&) override {}
+    void HandleUpkeep(const SDL_Event&) override {}
+    void Settle() override { host_.ShowFormInView(); }
+    void HandleQuit() override {}
+
+   private:
+    DesktopFormHost& host_;
+  };
+  void ShowFormInView();
+  FormInput* FormInView();
+
+  std::shared_ptr<FormWindow> window_;
+  std::shared_ptr<Switch> switch_;
+  std::vector<std::unique_ptr<FormInput>> forms_;
+};
+
+}  // namespace quendle

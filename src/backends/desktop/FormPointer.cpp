@@ -1,0 +1,35 @@
+#include "backends/desktop/FormPointer.h"
+
+#include "backends/desktop/FormPainter.h"
+
+namespace quendle {
+namespace {
+
+bool Answers(const Control& control) {
+  if (!control.visible || !control.enabled) return false;
+  switch (control.kind) {
+    case ControlKind::kLine:
+    case ControlKind::kFrame:
+      return false;
+    case ControlKind::kLabel:
+      return control.link;
+    default:
+      return true;
+  }
+}
+
+}  // namespace
+
+int ControlAt(const Form& form, Point at) {
+  for (auto i = static_cast<int>(form.controls.size()) - 1; i >= 0; --i) {
+    const Control& control = form.controls[static_cast<std::size_t>(i)];
+    if (Answers(control) && control.area.Holds(at)) return i;
+  }
+  return -1;
+}
+
+bool IsMoveHandle(const Form& form, Point at) {
+  return at.y >= 0 && at.y < kTitleBand && ControlAt(form, at) < 0;
+}
+
+}  // namespace quendle

@@ -1,0 +1,164 @@
+#include "backends/desktop/FormWindow.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "backends/desktop/FormPointer.h"
+#include "base/Text.h"
+
+namespace quendle {
+namespace {
+
+// A display must be this much larger than one step before forms grow by another.
+constexpr int kStepWidth = 900;
+constexpr int kStepHeight = 680;
+
+// Whole factors, so that lines stay sharp; less than 1 only for a form larger than the display.
+double ScaleFor(Size form, const SDL_Rect& display) {
+  double whole = std::max(1, std::min(display.w / kStepWidth, display.h / kStepHeight));
+  double fitting = std::min(static_cast<double>(display.w) / std::max(form.width, 1),
+                            static_cast<double>(display.h) / std::max(form.height, 1));
+  return std::min(whole, fitting);
+}
+
+// Asked by the window system, perhaps in the middle of an event of its own: reads the record only.
+SDL_HitTestResult HitTest(SDL_Window* window, const SDL_Point* at, void* data) {
+  auto* form_window = static_cast<FormWindow*>(data);
+  FormInput* input = form_window->Shown();
+  if (input == nullptr) return SDL_HITTEST_NORMAL;
+  int width = 1;
+  SDL_GetWindowSize(window, &width, nullptr);
+  const Form& form = input->Record();
+  FormPlace place{0, 0, static_cast<double>(width) / std::max(form.size.width, 1)};
+  return IsMoveHandle(form, place.ToForm(at->x, at->y)) ? SDL_HITTEST_DRAGGABLE
+                                                        : SDL_HITTEST_NORMAL;
+}
+
+}  // namespace
+
+void FormWindow::DestroyWindow::operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+
+FormWindow::~FormWindow() = default;
+
+bool FormWindow::Show(FormInput* input) {
+  if (input == input_) {
+    Refresh();
+    return true;
+  }
+  if (input_ != nullptr) input_->Reset();
+  input_ = input;
+  if (input_ == nullptr) {
+    if (window_ != nullptr) SDL_HideWindow(window_.get());
+    return true;
+  }
+  if (!Open()) {
+    input_ = nullptr;
+    return false;
+  }
+  minimised_ = false;
+  Fit();
+  Paint();
+  SDL_ShowWindow(window_.get());
+  SDL_RaiseWindow(window_.get());
+  SDL_ShowCursor(SDL_ENABLE);
+  Refresh();
+  return true;
+}
+
+void FormWindow::Refresh() {
+  if (input_ == nullptr) return;
+  dirty_ = true;
+  bool wanted = input_->Record().window_state == WindowState::kMinimised;
+  if (wanted && !minimised_) SDL_MinimizeWindow(window_.get());
+  if (!wanted && minimised_) SDL_RestoreWindow(window_.get());
+  minimised_ = wanted;
+}
+
+void FormWindow::Flash() {
+  if (window_ != nullptr) SDL_FlashWindow(window_.get(), SDL_FLASH_BRIEFLY);
+}
+
+std::uint32_t FormWindow::WindowId() const {
+  return window_ == nullptr ? 0 : SDL_GetWindowID(window_.get());
+}
+
+void FormWindow::HandleInput(const SDL_Event& event) {
+  if (input_ == nullptr) return;
+  dirty_ = true;
+  SendToForm(event, *input_, Place());
+}
+
+void FormWindow::HandleUpkeep(const SDL_Event& event) {
+  dirty_ = true;
+  if (event.type != SDL_WINDOWEVENT || input_ == nullptr) return;
+  if (event.window.event == SDL_WINDOWEVENT_RESTORED ||
+      event.window.event == SDL_WINDOWEVENT_MAXIMIZED) {
+    minimised_ = false;
+    input_->Record().window_state = WindowState::kNormal;
+  }
+}
+
+void FormWindow::Settle() {
+  if (dirty_ && input_ != nullptr && !minimised_) Paint();
+}
+
+void FormWindow::HandleQuit() {
+  if (input_ != nullptr) input_->Close();
+}
+
+bool FormWindow::Open() {
+  if (window_ != nullptr) return true;
+  window_.reset(SDL_CreateWindow("", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, 400, 300,
+                                 SDL_WINDOW_HIDDEN | SDL_WINDOW_BORDERLESS));
+  if (window_ == nullptr) return false;
+  SDL_SetWindowHitTest(window_.get(), HitTest, this);
+  SetIcon(window_.get());
+  return true;
+}
+
+void FormWindow::Fit() {
+  const Form& form = input_->Record();
+  SDL_Rect display{0, 0, 1024, 768};
+  SDL_GetDisplayUsableBounds(std::max(SDL_GetWindowDisplayIndex(window_.get()), 0), &display);
+  scale_ = ScaleFor(form.size, display);
+  auto width = static_cast<int>(std::lround(form.size.width * scale_));
+  auto height = static_cast<int>(std::lround(form.size.height * scale_));
+  // The next form takes the middle of the one before, wherever the player has moved that.
+  int x = 0;
+  int y = 0;
+  int old_width = 0;
+  int old_height = 0;
+  bool was_shown = (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_SHOWN) != 0;
+  SDL_GetWindowPosition(window_.get(), &x, &y);
+  SDL_GetWindowSize(window_.get(), &old_width, &old_height);
+  SDL_SetWindowTitle(window_.get(), ToUtf8(form.caption).c_str());
+  SDL_SetWindowSize(window_.get(), width, height);
+  if (was_shown) {
+    SDL_SetWindowPosition(window_.get(), std::max(display.x, x + (old_width - width) / 2),
+                          std::max(display.y, y + (old_height - height) / 2));
+  } else {
+    SDL_SetWindowPosition(window_.get(), display.x + (display.w - width) / 2,
+                          display.y + (display.h - height) / 2);
+  }
+}
+
+void FormWindow::Paint() {
+  dirty_ = false;
+  Canvas canvas = painter_.Paint(input_->Record(), scale_, input_->Look());
+  SDL_Surface* seen = SDL_GetWindowSurface(window_.get());
+  if (seen == nullptr) return;
+  std::vector<std::uint32_t> pixels = canvas.Pixels();
+  Size size = canvas.PixelSize();
+  SDL_Surface* picture = SDL_CreateRGBSurfaceWithFormatFrom(
+      pixels.data(), size.width, size.height, 32, size.width * 4, SDL_PIXELFORMAT_RGB888);
+  if (picture == nullptr) return;
+  SDL_BlitSurface(picture, nullptr, seen, nullptr);
+  SDL_FreeSurface(picture);
+  SDL_UpdateWindowSurface(window_.get());
+}
+
+FormPlace FormWindow::Place() const { return {0, 0, scale_}; }
+
+}  // namespace quendle

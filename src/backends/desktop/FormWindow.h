@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "backends/desktop/FormInput.h"
+#include "backends/desktop/FormPainter.h"
+#include "backends/desktop/SdlEventTarget.h"
+#include "backends/desktop/SdlInput.h"
+
+struct SDL_Window;
+
+namespace quendle {
+
+// A borderless window that shows one form at a time. It stands in the middle of the display and
+// keeps its place while the player has moved it.
+class FormWindow : public SdlEventTarget {
+ public:
+  // `painter` outlives the window.
+  explicit FormWindow(FormPainter& painter) : painter_(painter) {}
+  ~FormWindow() override;
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+
+  // Shows the form of `input`, or hides the window for a null one. `input` outlives its showing.
+  // False when no window can be had.
+  bool Show(FormInput* input);
+  FormInput* Shown() { return input_; }
+  // The record changed: paints again, minimises if the record says so.
+  void Refresh();
+  void Flash();
+
+  std::uint32_t WindowId() const override;
+  void HandleInput(const SDL_Event& event) override;
+  void HandleUpkeep(const SDL_Event& event) override;
+  void Settle() override;
+  void HandleQuit() override;
+
+ private:
+  struct DestroyWindow {
+    void operator()(SDL_Window* window) const;
+  };
+  bool Open();
+  void Fit();
+  void Paint();
+  FormPlace Place() const;
+
+  FormPainter& painter_;
+  std::unique_ptr<SDL_Window, DestroyWindow> window_;
+  FormInput* input_ = nullptr;
+  double scale_ = 1;
+  bool dirty_ = false;
+  bool minimised_ = false;
+};
+
+}  // namespace quendle

@@ -1,0 +1,133 @@
+#include "backends/desktop/FrameRenderer.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+
+#include "base/FatalError.h"
+
+namespace quendle {
+namespace {
+
+SDL_Rect ToSdl(const Rect& rect) {
+  return {rect.left, rect.top, rect.Width(), rect.Height()};
+}
+
+}  // namespace
+
+void FrameRenderer::DestroyRenderer::operator()(SDL_Renderer* renderer) const {
+  SDL_DestroyRenderer(renderer);
+}
+
+void FrameRenderer::DestroyTexture::operator()(SDL_Texture* texture) const {
+  SDL_DestroyTexture(texture);
+}
+
+FrameRenderer::FrameRenderer(SDL_Window* window)
+    // Without waiting for the display's beat: a hidden window would keep the timers waiting.
+    : renderer_(SDL_CreateRenderer(window, -1, SDL_RENDERER_ACCELERATED)) {
+  if (renderer_ == nullptr) {
+    renderer_.reset(SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE));
+  }
+  if (renderer_ == nullptr) {
+    throw FatalError(std::string("nothing can be drawn in the window: ") + SDL_GetError());
+  }
+  MakePicturesAnew();
+}
+
+// Pictures go before the renderer that they belong to.
+FrameRenderer::~FrameRenderer() {
+  overlay_.reset();
+  enlarged_.reset();
+  frame_.reset();
+}
+
+void FrameRenderer::MakePicturesAnew() {
+  overlay_.reset();
+  enlarged_.reset();
+  enlarged_factor_ = 0;
+  frame_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_RGB888,
+                                 SDL_TEXTUREACCESS_STREAMING, kFrameWidth, kFrameHeight));
+  if (frame_ == nullptr) {
+    throw FatalError(std::string("the frame has no room in graphics memory: ") + SDL_GetError());
+  }
+}
+
+void FrameRenderer::Upload(const std::uint32_t* frame) {
+  SDL_UpdateTexture(frame_.get(), nullptr, frame, kFrameWidth * 4);
+  enlarged_is_new_ = false;
+}
+
+void FrameRenderer::SetOverlay(const Canvas* picture) {
+  overlay_.reset();
+  if (picture == nullptr) return;
+  overlay_size_ = picture->PixelSize();
+  overlay_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_RGB888,
+                                   SDL_TEXTUREACCESS_STATIC, overlay_size_.width,
+                                   overlay_size_.height));
+  if (overlay_ == nullptr) return;
+  SDL_UpdateTexture(overlay_.get(), nullptr, picture->Pixels().data(), overlay_size_.width * 4);
+}
+
+void FrameRenderer::Draw(ScaleMode mode) {
+  SDL_SetRenderDrawColor(renderer_.get(), 0, 0, 0, 255);
+  SDL_RenderClear(renderer_.get());
+  DrawFrame(mode);
+  if (overlay_ != nullptr) {
+    Size output = OutputSize();
+    SDL_SetRenderDrawBlendMode(renderer_.get(), SDL_BLENDMODE_BLEND);
+    SDL_SetRenderDrawColor(renderer_.get(), 50, 30, 15, 110);
+    SDL_RenderFillRect(renderer_.get(), nullptr);
+    SDL_Rect place{(output.width - overlay_size_.width) / 2,
+                   (output.height - overlay_size_.height) / 2, overlay_size_.width,
+                   overlay_size_.height};
+    SDL_RenderCopy(renderer_.get(), overlay_.get(), nullptr, &place);
+  }
+  SDL_RenderPresent(renderer_.get());
+}
+
+void FrameRenderer::DrawFrame(ScaleMode mode) {
+  Rect area = FrameArea(OutputSize(), mode);
+  SDL_Rect place = ToSdl(area);
+  bool exact = area.Width() % kFrameWidth == 0 && area.Height() % kFrameHeight == 0 &&
+               area.Width() / kFrameWidth == area.Height() / kFrameHeight;
+  SDL_Texture* source = frame_.get();
+  if (mode == ScaleMode::kSharp && !exact && SharpFactor(area) > 1) {
+    if (SDL_Texture* enlarged = Enlarged(SharpFactor(area))) source = enlarged;
+  }
+  SDL_SetTextureScaleMode(source, exact ? SDL_ScaleModeNearest : SDL_ScaleModeLinear);
+  SDL_RenderCopy(renderer_.get(), source, nullptr, &place);
+}
+
+// The frame enlarged in whole steps; null when the device can't hold it.
+SDL_Texture* FrameRenderer::Enlarged(int factor) {
+  if (enlarged_factor_ != factor) {
+    enlarged_factor_ = factor;
+    enlarged_is_new_ = false;
+    enlarged_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_RGB888,
+                                      SDL_TEXTUREACCESS_TARGET, kFrameWidth * factor,
+                                      kFrameHeight * factor));
+  }
+  if (enlarged_ == nullptr) return nullptr;
+  if (!enlarged_is_new_) {
+    if (SDL_SetRenderTarget(renderer_.get(), enlarged_.get()) != 0) return nullptr;
+    SDL_SetTextureScaleMode(frame_.get(), SDL_ScaleModeNearest);
+    SDL_RenderCopy(renderer_.get(), frame_.get(), nullptr, nullptr);
+    SDL_SetRenderTarget(renderer_.get(), nullptr);
+    enlarged_is_new_ = true;
+  }
+  return enlarged_.get();
+}
+
+Size FrameRenderer::OutputSize() const {
+  Size size;
+  SDL_GetRendererOutputSize(renderer_.get(), &size.width, &size.height);
+  return size;
+}
+
+std::string FrameRenderer::Name() const {
+  SDL_RendererInfo info;
+  return SDL_GetRendererInfo(renderer_.get(), &info) == 0 ? info.name : "none";
+}
+
+}  // namespace quendle

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "backends/desktop/Canvas.h"
+#include "backends/desktop/FrameScaling.h"
+
+struct SDL_Renderer;
+struct SDL_Texture;
+struct SDL_Window;
+
+namespace quendle {
+
+// Draws the frame, scaled, and what lies over it into a window.
+class FrameRenderer {
+ public:
+  // With the graphics device where there is one, else in software. Neither is fatal to be without:
+  // FatalError.
+  explicit FrameRenderer(SDL_Window* window);
+  ~FrameRenderer();
+  FrameRenderer(const FrameRenderer&) = delete;
+  FrameRenderer& operator=(const FrameRenderer&) = delete;
+
+  // Takes a new frame: 800 * 600 words 0x00RRGGBB.
+  void Upload(const std::uint32_t* frame);
+  // A picture that stands centred over the frame, unscaled; nothing removes it.
+  void SetOverlay(const Canvas* picture);
+  // Draws everything and shows it.
+  void Draw(ScaleMode mode);
+  // The device lost its pictures: they are made again. The caller uploads the frame anew.
+  void MakePicturesAnew();
+  Size OutputSize() const;
+  // The drawing backend, such as "opengl" or "software".
+  std::string Name() const;
+
+ private:
+  struct DestroyRenderer {
+    void operator()(SDL_Renderer* renderer) const;
+  };
+  struct DestroyTexture {
+    void operator()(SDL_Texture* texture) const;
+  };
+  using Texture = std::unique_ptr<SDL_Texture, DestroyTexture>;
+
+  void DrawFrame(ScaleMode mode);
+  SDL_Texture* Enlarged(int factor);
+
+  std::unique_ptr<SDL_Renderer, DestroyRenderer> renderer_;
+  Texture frame_;
+  Texture enlarged_;
+  int enlarged_factor_ = 0;
+  bool enlarged_is_new_ = false;
+  Texture overlay_;
+  Size overlay_size_;
+};
+
+}  // namespace quendle

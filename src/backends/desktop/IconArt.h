@@ -1,0 +1,20 @@
+// Small drawings for buttons and boxes. Each fits a circle around `centre`; lengths are form units.
+#pragma once
+
+#include "backends/desktop/Canvas.h"
+
+namespace quendle {
+
+// A friendly puppy's head; happier (tongue out) when `happy`.
+void DrawPuppy(Canvas& canvas, Vec centre, double radius, bool happy);
+void DrawPaw(Canvas& canvas, Vec centre, double radius, Rgba color);
+// A child's face in a photograph with a white rim.
+void DrawPhoto(Canvas& canvas, Vec centre, double radius);
+void DrawGear(Canvas& canvas, Vec centre, double radius, Rgba color, Rgba hole);
+void DrawGlobe(Canvas& canvas, Vec centre, double radius);
+// A triangle that points right: go on.
+void DrawPlaySign(Canvas& canvas, Vec centre, double radius, Rgba color);
+void DrawTick(Canvas& canvas, Vec centre, double radius, Rgba color);
+void DrawCross(Canvas& canvas, Vec centre, double radius, Rgba color);
+
+}  // namespace quendle

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+
+union SDL_Event;
+
+namespace quendle {
+
+// A window that takes the events of the media library. Called from the event loop only.
+class SdlEventTarget {
+ public:
+  virtual ~SdlEventTarget() = default;
+  // Number of the library's window; 0 while there is none.
+  virtual std::uint32_t WindowId() const = 0;
+  // Input: keys, pointer, close. Withheld while a box stands over this window.
+  virtual void HandleInput(const SDL_Event& event) = 0;
+  // What a window needs at any time: exposure, size, focus, lost pictures.
+  virtual void HandleUpkeep(const SDL_Event& event) = 0;
+  // Between events: brings what is seen up to date.
+  virtual void Settle() = 0;
+  // The system asks the program to end, by a signal for instance.
+  virtual void HandleQuit() = 0;
+};
+
+}  // namespace quendle

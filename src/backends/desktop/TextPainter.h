@@ -1,0 +1,58 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "backends/desktop/Canvas.h"
+#include "backends/desktop/FontFinder.h"
+
+struct _TTF_Font;
+
+namespace quendle {
+
+// How a piece of text looks. Sizes are form units: 1/96 inch at scale 1.
+struct TextStyle {
+  double size = 12;
+  bool bold = false;
+  bool underline = false;
+  Rgba color;
+};
+
+// Draws text (8-bit, as content has it) in the font that serves as Arial.
+class TextPainter {
+ public:
+  // Without a font nothing is drawn and every text has no width: see HasFont.
+  explicit TextPainter(const FontFinder& fonts);
+  ~TextPainter();
+  TextPainter(const TextPainter&) = delete;
+  TextPainter& operator=(const TextPainter&) = delete;
+
+  bool HasFont() const { return !regular_.empty(); }
+  // Width of one line and height of any line, in form units at the given scale.
+  double WidthOf(std::string_view text, const TextStyle& style, double scale);
+  double LineHeight(const TextStyle& style, double scale);
+  // The text cut into lines of at most `width` at blanks; line breaks are kept.
+  std::vector<std::string> Wrap(std::string_view text, const TextStyle& style, double width,
+                                double scale);
+  // Draws one line with its top left corner at (x, y).
+  void Draw(Canvas& canvas, std::string_view text, const TextStyle& style, double x, double y);
+  // Draws one line centred on x and y.
+  void DrawCentred(Canvas& canvas, std::string_view text, const TextStyle& style, Vec centre);
+
+ private:
+  struct CloseFont {
+    void operator()(_TTF_Font* font) const;
+  };
+  _TTF_Font* FontOf(const TextStyle& style, double scale);
+
+  std::string regular_;
+  std::string bold_;
+  bool opened_library_ = false;
+  std::map<std::pair<int, bool>, std::unique_ptr<_TTF_Font, CloseFont>> fonts_;
+};
+
+}  // namespace quendle

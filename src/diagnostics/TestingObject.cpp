@@ -1,0 +1,36 @@
+#include "diagnostics/TestingObject.h"
+
+#include <utility>
+
+#include "diagnostics/Debomb_Window.h"
+
+namespace quendle {
+
+TestingObject::TestingObject(FileSystem& files, std::string base_directory)
+    : files_(files), base_directory_(std::move(base_directory)) {}
+
+void TestingObject::Initialize(const std::string& category, const std::string& file_name,
+                               ObjectRef object, std::int16_t level) {
+  std::unique_ptr<LineWriter> stream = files_.CreateLineFile(base_directory_ + "\\" + file_name);
+  if (stream == nullptr) throw FatalError("the event log can't be created", {file_name, 0});
+  streams_.Add(std::move(stream), category);
+  thresholds_.Add(level, category);
+  if (object != nullptr) attached_.Add(std::move(object), category);
+}
+
+void TestingObject::RegisterNewEventFile(const std::string& category, const std::string& file_name,
+                                         std::int16_t level) {
+  Initialize(category, file_name, nullptr, level);
+  streams_.Item(category)->WriteLine("Initializing the Event Log");
+}
+
+void TestingObject::LogEvent(std::string_view message, int level, std::string_view category) {
+  if (thresholds_.Item(category) < level) return;
+  if (write_to_file_) {
+    streams_.Item(category)->WriteLine(message);
+  } else if (window_ != nullptr) {
+    window_->PutOnTop(message);
+  }
+}
+
+}  // namespace quendle

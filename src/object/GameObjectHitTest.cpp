@@ -1,0 +1,78 @@
+// Is a point on a GameObject, and in which of its regions?
+
+#include "media/MediaWorld.h"
+#include "media/ObjectPicture.h"
+#include "media/PlacedFrame.h"
+#include "object/GameObject.h"
+
+namespace quendle {
+namespace {
+
+const std::string kNoRegion;
+
+// The offset of a coordinate from where the frame stands.
+int OffsetFrom(int position, int placement, int coordinate) {
+  return coordinate - ResolveFramePosition(position, placement);
+}
+
+}  // namespace
+
+bool GameObject::AreWeOnTheObject(std::int16_t x, std::int16_t y) {
+  if (picture_ == nullptr || !picture_->Exists()) return false;
+  const int dx = x - xpos_;
+  if (y == -1) return dx >= 0 && dx < width_;
+  const int dy = y - ypos_;
+  if (dx < 0 || dy < 0 || dx > width_ || dy > height_) return false;
+  for (const FrameRef& frame : CurrentFrames_) {
+    const int fx = OffsetFrom(xpos_, frame->PlaceX, x);
+    const int fy = OffsetFrom(ypos_, frame->PlaceY, y);
+    // The edges of a frame don't count here, though they do for regions.
+    if (fx <= 0 || fx >= frame->SourceWidth || fy <= 0 || fy >= frame->SourceHeight) continue;
+    if (picture_->PixelAt(frame->SourceX + fx, frame->SourceY + fy) !=
+        world_.media.TransparentColor) {
+      return true;
+    }
+  }
+  return false;
+}
+
+const AnimationFrame* GameObject::HitFrame(int x, int y, int& offset_x, int& offset_y) const {
+  const AnimationFrame* hit = nullptr;
+  for (const FrameRef& frame : CurrentFrames_) {
+    const int fx = OffsetFrom(xpos_, frame->PlaceX, x);
+    const int fy = OffsetFrom(ypos_, frame->PlaceY, y);
+    if (fx < 0 || fx > frame->SourceWidth || fy < 0 || fy > frame->SourceHeight) continue;
+    const Color pixel = picture_ == nullptr
+                            ? kInvalidColor
+                            : picture_->PixelAt(frame->SourceX + fx, frame->SourceY + fy);
+    if (pixel == world_.media.TransparentColor) continue;
+    hit = frame.get();
+    offset_x = fx;
+    offset_y = fy;
+  }
+  return hit;
+}
+
+const std::string& GameObject::GetRegionAtPoint(int x, int y) {
+  int offset_x = 0;
+  int offset_y = 0;
+  const AnimationFrame* frame = HitFrame(x, y, offset_x, offset_y);
+  const std::vector<Region>* regions = nullptr;
+  if (frame != nullptr && !EqualsNoCase(frame->RegionKey, "nothing")) {
+    regions = FrameRegions_.Find(frame->RegionKey);
+  }
+  if (regions == nullptr) {
+    CurrentRegion_.clear();
+    return kNoRegion;
+  }
+  // A miss inside a frame with regions keeps the region hit before.
+  const Region* hit = nullptr;
+  for (const Region& region : *regions) {
+    if (region.Holds(offset_x, offset_y)) hit = &region;
+  }
+  if (hit == nullptr) return kNoRegion;
+  CurrentRegion_ = hit->Name();
+  return CurrentRegion_;
+}
+
+}  // namespace quendle

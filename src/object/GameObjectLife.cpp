@@ -1,0 +1,187 @@
+// How a GameObject lives in its tree: turned on and off, events, children, release.
+
+#include <utility>
+
+#include "base/Numbers.h"
+#include "base/Watch.h"
+#include "media/DShowObj.h"
+#include "media/ObjectPicture.h"
+#include "media/SoundState.h"
+#include "object/GameObject.h"
+#include "script/ActionText.h"
+#include "script/ScriptState.h"
+#include "script/ScriptVariables.h"
+
+namespace quendle {
+namespace {
+
+// True if `wanted` is `tree` or hangs anywhere below it.
+bool Holds(GameObjectInterface& tree, const GameObjectInterface* wanted) {
+  if (&tree == wanted) return true;
+  for (const auto& entry : tree.Children()) {
+    if (Holds(*entry.value, wanted)) return true;
+  }
+  return false;
+}
+
+// A coordinate of the parent as seen by a child.
+std::int16_t Relative(int coordinate, int origin) {
+  int relative = coordinate - origin;
+  if (relative < INT16_MIN || relative > INT16_MAX) {
+    return ToInt16(relative, "a coordinate relative to an object");
+  }
+  return static_cast<std::int16_t>(relative);
+}
+
+}  // namespace
+
+void GameObject::TurnOn() {
+  DepthGuard guard(world_.watch.depth, Work::kTreeWalk, ObjectName_, this);
+  ObjectOn_ = true;
+  if (m_ptrCurrObjState == nullptr) {
+    throw FatalError("object \"" + WorkPath() +
+                     "\" is turned on without a current state: it has no state \"default\" and "
+                     "no directive names another");
+  }
+  ProcessState(CurrentState());
+  for (std::size_t i = 1; i <= Children_.Count(); ++i) {
+    ObjectRef child = Children_.Item(i);
+    child->SetParent(self_);
+    child->TurnOn();
+  }
+}
+
+void GameObject::TurnOff() {
+  DepthGuard guard(world_.watch.depth, Work::kTreeWalk, ObjectName_, this);
+  ObjectOn_ = false;
+  KillAnimationTimer();
+  if (!CurrentSoundName_.empty()) SoundNamed(CurrentSoundName_).StopSound();
+  CurrentAnimationName_.clear();
+  if (!StateHistory_.empty()) {
+    ProcessState(std::string(StateHistory_.front()));
+    StateHistory_.clear();
+  }
+  for (std::size_t i = 1; i <= Children_.Count(); ++i) {
+    ObjectRef child = Children_.Item(i);
+    child->TurnOff();
+  }
+}
+
+std::string GameObject::PeekCurrentState(std::int16_t x, std::int16_t y,
+                                         const std::string& action) {
+  if (!AreWeOnTheObject(x, y)) return "nothing";
+  return GetRegionAtPoint(x, y) + action;
+}
+
+void GameObject::UpdateGameObject(std::int16_t x, std::int16_t y, const ActionText& action) {
+  if (x == -1 && y == -1 && Visible_) {
+    RunStateScript(action);
+  } else if (Visible_ && AreWeOnTheObject(x, y)) {
+    const std::string& region = GetRegionAtPoint(x, y);
+    if (region.empty()) {
+      RunStateScript(action);
+    } else {
+      RunStateScript(action.InRegion(region));
+    }
+  } else {
+    RunStateScript(action.Not());
+  }
+  if (Children_.Empty()) return;
+  DepthGuard guard(world_.watch.depth, Work::kTreeWalk, ObjectName_, this);
+  for (std::size_t i = 1; i <= Children_.Count(); ++i) {
+    ObjectRef child = Children_.Item(i);
+    if (child->Visible()) {
+      child->UpdateGameObject(Relative(x, xpos_), Relative(y, ypos_), action);
+    }
+  }
+}
+
+void GameObject::RunStateScript(const ActionText& action) {
+  if (current_script_ == nullptr || SelfReference_ == nullptr) return;
+  world_.watch.Trace(TraceKind::kScript, ObjectName_, current_script_->Name(), action.Text());
+  // A strong copy: the script may release the object that it runs on.
+  std::shared_ptr<ScriptState> script = current_script_;
+  script->Execute(ScriptVariables(action), *SelfReference_);
+}
+
+void GameObject::RunScript(const std::string& name) {
+  if (EqualsNoCase(name, "nothing") || SelfReference_ == nullptr) return;
+  const auto* found = Scripts_.Find(name);
+  if (found == nullptr) return;
+  std::shared_ptr<ScriptState> script = *found;
+  const ActionText nothing("nothing");
+  world_.watch.Trace(TraceKind::kScript, ObjectName_, script->Name(), nothing.Text());
+  script->Execute(ScriptVariables(nothing), *SelfReference_);
+}
+
+void GameObject::AddChildObject(ObjectRef child) {
+  if (child == nullptr) return;
+  AttachChild(child);
+  if (ObjectOn_) child->TurnOn();
+}
+
+void GameObject::AttachChild(ObjectRef child) {
+  if (Holds(*child, SelfReference_)) {
+    throw FatalError("\"" + child->ObjectName() + "\" can't become a child of \"" + WorkPath() +
+                     "\", which it holds");
+  }
+  std::string name = child->ObjectName();
+  Children_.Add(std::move(child), std::move(name));
+}
+
+void GameObject::RemoveChild(const std::string& name) {
+  for (std::size_t i = 1; i <= Children_.Count(); ++i) {
+    ObjectRef child = Children_.Item(i);
+    if (!EqualsNoCase(child->ObjectName(), name)) continue;
+    child->TurnOff();
+    // Turning off may have run messages: the child is looked up again.
+    for (std::size_t k = 1; k <= Children_.Count(); ++k) {
+      if (Children_.Item(k) == child) {
+        Children_.RemoveAt(k);
+        break;
+      }
+    }
+    return;
+  }
+}
+
+void GameObject::Release(bool forced) {
+  if (releasing_ || (!forced && world_.GlobalObjectExists(ObjectName_))) return;
+  // Marked first: shared objects may be each other's children.
+  releasing_ = true;
+  for (std::size_t i = 1; i <= Children_.Count(); ++i) Children_.Item(i)->Release(forced);
+  KillAnimationTimer();
+  picture_.reset();
+  Parent_.reset();
+  m_ptrCurrObjState.reset();
+  current_script_.reset();
+  Animations_.Clear();
+  States_.Clear();
+  Sounds_.Clear();
+  Scripts_.Clear();
+  Frames_.Clear();
+  FrameRegions_.Clear();
+  Children_.Clear();
+  SelfReference_ = nullptr;
+  self_.reset();
+  CurrentFrames_.clear();
+  StateHistory_.clear();
+  player_.reset();
+  releasing_ = false;
+}
+
+void GameObject::NotifyParent(const std::string& message, bool verifying, bool& result) {
+  std::shared_ptr<MessageTarget> parent = Parent_.lock();
+  if (parent == nullptr) return;
+  GameObjectInterface* sender = SelfReference_ != nullptr ? SelfReference_ : this;
+  parent->HandleMessage(message, sender, verifying, result);
+}
+
+void GameObject::NotifyChild(const std::string& message, const std::string& type) {
+  for (std::size_t i = 1; i <= Children_.Count(); ++i) {
+    ObjectRef child = Children_.Item(i);
+    if (EqualsNoCase(child->ObjectType(), type)) child->Send(message, SelfReference_);
+  }
+}
+
+}  // namespace quendle

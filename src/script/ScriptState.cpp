@@ -1,0 +1,28 @@
+#include "script/ScriptState.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+
+namespace quendle {
+
+Answer ScriptState::Execute(const ScriptVariables& variables, ScriptTarget& target) const {
+  return root_.Execute(variables, target);
+}
+
+void ScriptState::Parse(const std::vector<ScriptLine>& lines, WorkDepth& depth) {
+  std::size_t position = 1;
+  std::string stack;
+  root_ = Command();
+  root_.Parse(lines, position, stack, depth);
+}
+
+bool ScriptState::VerifyParse(const std::vector<std::string>& lines) const {
+  std::vector<std::string> printed;
+  PrintScript(printed);
+  return printed.size() >= lines.size() &&
+         std::equal(lines.begin(), lines.end(), printed.begin(),
+                    [](const auto& a, const auto& b) { return EqualsNoCase(a, b); });
+}
+
+}  // namespace quendle

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/FatalError.h"
+
+namespace quendle {
+
+enum class StatementVerb { kMtp, kChange, kRunSound, kRunState, kOther };
+
+// One action line, cut into its words once. Any line is a statement; one whose first word is none
+// of the four verbs does nothing when it is carried out.
+class Statement {
+ public:
+  // NOLINTNEXTLINE(google-explicit-constructor): a line of text is a statement.
+  Statement(std::string_view text, FilePlace origin = {});
+  Statement(const char* text) : Statement(std::string_view(text)) {}         // NOLINT
+  Statement(const std::string& text) : Statement(std::string_view(text)) {}  // NOLINT
+
+  const std::string& Text() const { return text_; }
+  const FilePlace& Origin() const { return origin_; }
+  StatementVerb Verb() const { return verb_; }
+  // Word 2 as it stands. Fatal when the statement has one word only.
+  const std::string& Argument() const;
+  // Word 2 may hold a token such as "<currentstate>".
+  bool MayHoldToken() const { return may_hold_token_; }
+
+ private:
+  std::string text_;
+  FilePlace origin_;
+  StatementVerb verb_ = StatementVerb::kOther;
+  std::string argument_;
+  bool has_argument_ = false;
+  bool may_hold_token_ = false;
+};
+
+}  // namespace quendle

@@ -1,0 +1,179 @@
+#include "shell/TandrelPrompt.h"
+
+#include "base/ContentFiles.h"
+#include "base/ProcessEnds.h"
+#include "base/Settings.h"
+#include "dialogs/FormLayout.h"
+#include "dialogs/frmDifficultyMenu.h"
+#include "dialogs/frmOptionsMenu.h"
+#include "dialogs/frmSafeMode.h"
+#include "platform/Boxes.h"
+#include "platform/SystemServices.h"
+#include "shell/GameStarter.h"
+
+namespace quendle {
+namespace {
+
+constexpr int kLastPicture = 14;
+constexpr int kMinimisePicture = 7;
+constexpr int kOldestSystem = 5;
+constexpr std::int16_t kSiblingEdition = 1;
+constexpr Rect kTitleButtonSize{0, 0, 28, 28};
+
+}  // namespace
+
+TandrelPrompt::TandrelPrompt(FormServices services, Boxes& boxes, GameStarter& starter,
+                             std::int16_t edition)
+    : PictureForm(services, "TandrelPrompt", {420, 420}, kLastPicture),
+      boxes_(boxes),
+      starter_(starter),
+      edition_(edition),
+      settings_files_(services.files, services.settings) {}
+
+TandrelPrompt::~TandrelPrompt() = default;
+
+void TandrelPrompt::Load() {
+  Settings& settings = services_.settings;
+  settings.SafeMode = false;
+  ChooseEdition();
+  BuildForm();
+  EndIfAnotherInstanceRuns();
+  AskAboutOldSystem();
+  settings_files_.ReadOptions();
+  SyncOptionsDialog();
+  settings_files_.ReadGameMode();
+  if (!settings.SafeMode && settings_files_.GameRunningIsOn()) {
+    AskAfterCrash();
+  } else {
+    Show();
+  }
+}
+
+void TandrelPrompt::Unload() {
+  SaveOptions();
+  throw ProcessEnds{false};
+}
+
+void TandrelPrompt::Show() { SetShown(true); }
+
+void TandrelPrompt::btnNormal_Click() {
+  if (settings_files_.DialogModeExists()) {
+    processGameState("normalMode");
+  } else {
+    ShowDifficultyDialog();
+  }
+}
+
+void TandrelPrompt::SaveOptions() { settings_files_.SaveOptions(); }
+
+void TandrelPrompt::SetButtonHighlight(std::int16_t index) {
+  if (index % 2 != 0) HighlightButton(index);
+}
+
+void TandrelPrompt::OnButtonPress(int index) {
+  if (index >= 13) {
+    services_.system.OpenInShell(services_.settings.WebAddress);
+  } else if (index >= 11) {
+    Unload();
+  } else if (index >= 9) {
+    services_.system.Beep();
+  } else if (index >= 7) {
+    Minimise();
+  } else if (index >= 5) {
+    ShowOptionsDialog();
+  } else if (index >= 3) {
+    ShowPersonalizeDialog();
+  } else if (index >= 1) {
+    btnNormal_Click();
+  }
+}
+
+void TandrelPrompt::BuildForm() {
+  const Settings& settings = services_.settings;
+  form_.caption = settings.ProductName;
+  AddLabel(form_, "Label1", "Please Select an Option...", {18, 13, 306, 41}).font_size =
+      kTitleFontSize;
+  AddPicturePair(form_, 1, "play", "Play", {60, 58, 360, 128});
+  AddPicturePair(form_, 3, "personalize", "Personalize", {60, 140, 360, 210});
+  AddPicturePair(form_, 5, "options", "Options", {60, 222, 360, 292});
+  AddPicturePair(form_, 13, "link", settings.ProductName + " on the Web", {110, 304, 310, 344});
+  AddLink(form_, "Label2", settings.WebAddress, {24, 354, 396, 378});
+  AddLink(form_, "Label3", settings.SupportAddress, {24, 382, 396, 406});
+  AddPicturePair(form_, 7, "minimise", "Minimise", kTitleButtonSize);
+  AddPicturePair(form_, 9, "maximise", "Maximise", kTitleButtonSize);
+  AddPicturePair(form_, 11, "close", "Close", kTitleButtonSize);
+  PositionTitleButtons(form_, kMinimisePicture);
+  PairButtonPictures(form_, 1, kLastPicture);
+  SetButtonHighlight(-1);
+  LoadBorders(form_);
+  Register();
+}
+
+void TandrelPrompt::ChooseEdition() {
+  Settings& settings = services_.settings;
+  settings.GameEdition = edition_;
+  settings.ProductName = "Wumbly";
+  if (edition_ == kSiblingEdition) {
+    settings.ProductName = "Tandrel";
+    settings.WebAddress = "https://www.quendle.example/tandrel";
+  }
+}
+
+void TandrelPrompt::EndIfAnotherInstanceRuns() {
+  if (!services_.system.PreviousInstanceRuns()) return;
+  const std::string& product = services_.settings.ProductName;
+  boxes_.MessageBox(product, "Another version of " + product + " is already running");
+  throw ProcessEnds{false};
+}
+
+void TandrelPrompt::AskAboutOldSystem() {
+  if (services_.system.MajorVersion() >= kOldestSystem) return;
+  const Settings& settings = services_.settings;
+  const std::string question =
+      settings.ProductName +
+      " is designed to run on Windows 2000 and Windows XP.\n"
+      "At this time, the game is not guaranteed to run on Windows 95/98/ME.\n"
+      "Contact " +
+      settings.SupportAddress +
+      " with any questions.\n"
+      "Would you like to continue trying to run the game?";
+  if (!boxes_.YesNoBox(settings.ProductName, question)) throw ProcessEnds{false};
+}
+
+void TandrelPrompt::AskAfterCrash() {
+  SetShown(false);
+  if (!safe_mode_) safe_mode_ = std::make_unique<frmSafeMode>(services_, *this);
+  safe_mode_->Show();
+}
+
+void TandrelPrompt::SyncOptionsDialog() {
+  if (!options_) options_ = std::make_unique<frmOptionsMenu>(services_, *this);
+  options_->SyncControls();
+}
+
+void TandrelPrompt::ShowOptionsDialog() {
+  SyncOptionsDialog();
+  SetShown(false);
+  options_->Show();
+}
+
+void TandrelPrompt::ShowPersonalizeDialog() {
+  boxes_.MessageBox(services_.settings.ProductName,
+                    "Putting your own photo into the game comes with a later version.");
+}
+
+void TandrelPrompt::ShowDifficultyDialog() {
+  if (!difficulty_) difficulty_ = std::make_unique<frmDifficultyMenu>(services_, *this);
+  difficulty_->SyncControls();
+  SetShown(false);
+  difficulty_->Show();
+}
+
+void TandrelPrompt::processGameState(std::string_view) {
+  SaveOptions();
+  if (services_.settings.SafeMode) services_.settings.DifficultyLevel = "Easy";
+  SetShown(false);
+  starter_.OpenGameWindow();
+}
+
+}  // namespace quendle
