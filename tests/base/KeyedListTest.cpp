@@ -56,6 +56,10 @@ TEST(KeyedList, ASecondEntryUnderAKeyIsFatalInAnyCase) {
   KeyedList<int> list = ThreeStates();
   EXPECT_EQ(FaultOf([&] { list.Add(40, "DEFAULT"); }),
             "there are two state entries named \"DEFAULT\"");
+  EXPECT_EQ(FaultOf([&] {
+              list.Add(40, "done", {"Info\\x.txt", 9});
+            }),
+            "Info\\x.txt:9: there are two state entries named \"done\"");
   EXPECT_EQ(list.Count(), 3U);
 }
 

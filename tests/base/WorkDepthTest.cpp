@@ -106,6 +106,40 @@ TEST(WorkDepth, AMessageWithoutAPlaceTakesTheObjectNothingElseGave) {
   EXPECT_EQ(depth.FailedObject(), "") << "the innermost text ends the search";
 }
 
+TEST(WorkDepth, AFaultTellsWhereItsScriptLineStands) {
+  WorkDepth depth;
+  const FilePlace line{"Info\\door.txt", 7};
+  try {
+    DepthGuard message(depth, Work::kMessage, "open");
+    DepthGuard script(depth, Work::kScript, "change opne", nullptr, &line);
+    throw FatalError("fault");
+  } catch (const FatalError&) {
+  }
+  EXPECT_EQ(depth.FailedPlace().file, "Info\\door.txt");
+  EXPECT_EQ(depth.FailedPlace().line, 7);
+  depth.ForgetFailure();
+  EXPECT_EQ(depth.FailedPlace().file, "");
+}
+
+TEST(WorkDepth, WorkThatEndsWellWhileAFaultUnwindsIsNotToldAsItsCause) {
+  struct Releasing {
+    WorkDepth& depth;
+    const Place& place;
+    ~Releasing() { DepthGuard guard(depth, Work::kTreeWalk, "release", &place); }
+  };
+  WorkDepth depth;
+  Place hall("hall");
+  Place released("hall/released");
+  try {
+    DepthGuard guard(depth, Work::kMessage, "open", &hall);
+    Releasing releasing{depth, released};
+    throw FatalError("fault");
+  } catch (const FatalError&) {
+  }
+  EXPECT_EQ(depth.FailedObject(), "hall");
+  EXPECT_EQ(depth.FailedText(), "open");
+}
+
 TEST(WorkDepth, TheFaultOfTooManyLevelsIsToldLikeAnyOther) {
   WorkDepth depth;
   FaultAtDepth(depth, 201, Work::kMessage, "ping");
