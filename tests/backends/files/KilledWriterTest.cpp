@@ -4,55 +4,16 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <functional>
 
 #include "backends/files/DiskFileSystem.h"
+#include "backends/files/StopAtEveryStep.h"
 #include "backends/files/TemporaryFolder.h"
 
 namespace quendle {
 namespace {
 
-constexpr int kStopped = 77;
-constexpr int kMostSteps = 1000;
 const std::string kOld = "old file\r\n";
 const std::string kNew(70'000, 'n');  // several pieces
-
-struct Outcome {
-  int steps = 0;  // of the whole work
-  std::set<std::string> seen;
-};
-
-// Runs `work` in one process for each of its steps and ends that process right before the step;
-// what `look` finds afterwards is collected.
-Outcome StopAtEveryStep(const std::function<void(DiskFileSystem&)>& work,
-                        const std::function<DiskFileSystem(Faults&)>& open,
-                        const std::function<std::string()>& look) {
-  Outcome outcome;
-  for (int stop = 0; stop < kMostSteps; ++stop) {
-    pid_t child = fork();
-    if (child == 0) {
-      Faults faults;
-      DiskFileSystem files = open(faults);
-      int step = 0;
-      files.WatchSteps([&](std::string_view) {
-        if (step++ == stop) _exit(kStopped);
-      });
-      work(files);
-      _exit(0);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status));
-    outcome.seen.insert(look());
-    if (WEXITSTATUS(status) != kStopped) {
-      EXPECT_EQ(WEXITSTATUS(status), 0);
-      outcome.steps = stop;
-      return outcome;
-    }
-  }
-  ADD_FAILURE() << "the work never ends";
-  return outcome;
-}
 
 TEST(KilledWriter, LeavesTheOldOrTheNewFileAtEveryStep) {
   TemporaryFolder content;
@@ -65,7 +26,7 @@ TEST(KilledWriter, LeavesTheOldOrTheNewFileAtEveryStep) {
     return bytes;
   };
   content.Put("userdata.txt", kOld);
-  Outcome outcome =
+  StopOutcome outcome =
       StopAtEveryStep([&](DiskFileSystem& files) { files.Write(path, kNew); }, open, look);
   EXPECT_EQ(outcome.seen, (std::set<std::string>{kOld, kNew}));
   // open, five pieces of two steps, flush, rename, flush of the folder
@@ -84,7 +45,7 @@ TEST(KilledWriter, LeavesNoFileOrTheNewOneInThePlayersFolder) {
     std::filesystem::remove_all(player / "share");
     return bytes;
   };
-  Outcome outcome =
+  StopOutcome outcome =
       StopAtEveryStep([&](DiskFileSystem& files) { files.Write(path, kNew); }, open, look);
   EXPECT_EQ(outcome.seen, (std::set<std::string>{"missing", kNew}));
   EXPECT_EQ(outcome.steps, 3 + 1 + 2 * 5 + 3) << "three folders are made first";
@@ -106,7 +67,8 @@ TEST(KilledWriter, ARemovalIsWholeToo) {
     player.Put("userdata.txt", "player");
     return bytes;
   };
-  Outcome outcome = StopAtEveryStep([&](DiskFileSystem& files) { files.Remove(path); }, open, look);
+  StopOutcome outcome =
+      StopAtEveryStep([&](DiskFileSystem& files) { files.Remove(path); }, open, look);
   EXPECT_EQ(outcome.seen, (std::set<std::string>{"missing", "player"}))
       << "never the author's file in between";
 }
