@@ -50,6 +50,19 @@ TEST_F(DiskFileSystemTest, FilesMadeInAFolderThatWasQuietForLongAreFound) {
   EXPECT_TRUE(files.Exists(At("\\B.TXT")));
 }
 
+TEST_F(DiskFileSystemTest, TwoChangesWithinOneTickOfTheSystemsClockAreBothSeen) {
+  content_.Put("a.txt", "a");
+  timespec now{};
+  clock_gettime(CLOCK_REALTIME, &now);
+  timespec tick[2] = {now, now};
+  ASSERT_EQ(utimensat(AT_FDCWD, content_.Path().c_str(), tick, 0), 0);
+  DiskFileSystem files = Open();
+  EXPECT_FALSE(files.Exists(At("\\b.txt")));
+  content_.Put("b.txt", "b");
+  ASSERT_EQ(utimensat(AT_FDCWD, content_.Path().c_str(), tick, 0), 0);
+  EXPECT_TRUE(files.Exists(At("\\b.txt")));
+}
+
 TEST_F(DiskFileSystemTest, FilesDeletedOrRenamedMeanwhileAreMissed) {
   content_.Put("Info/a.txt", "a");
   content_.Put("Info/Old.txt", "old");
