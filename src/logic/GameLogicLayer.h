@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "base/Words.h"
 #include "logic/GameHost.h"
@@ -12,6 +13,7 @@
 namespace quendle {
 
 class ActionText;
+class SoundState;
 
 // Which one-time help has been given; the order is that of "HelpSys.txt".
 struct HelpMemory {
@@ -26,7 +28,7 @@ struct HelpMemory {
 // the messages that no object takes. Every screen's parent. Held by a shared_ptr.
 class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this<GameLogicLayer> {
  public:
-  static constexpr int kDrawInterval = 50;          // milliseconds
+  static constexpr int kDrawInterval = 50;             // milliseconds
   static constexpr std::int16_t kMusicRestart = 3500;  // draws
 
   // Both must outlive the layer.
@@ -86,6 +88,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   struct Call;
   struct Row;
   static const std::vector<Row>& MessageTable();
+  bool VerifyRow(const Row& row, const Call& call) const;
 
   void CursorChange(Call& call);
   void ToolAnswer(Call& call);
@@ -109,17 +112,13 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void EndExitOnDemand(Call& call);
   void ExitGame(Call& call);
 
-  bool VerifyCursor(const Words& words) const;
-  bool VerifyScreen(const Words& words) const;
-
   ObjectRef RequireScreen(const std::string& name);
   void SendToCurrent(const std::string& message);
   void SendToTools(const std::string& message);
   void EndSubgame(const char* patient_message);
   void EnterScreen(const std::string& name);
   void GiveOneTimeHelp(const std::string& name);
-  void PlacePointer(std::int16_t x, std::int16_t y);
-  void UpdateLayers(std::int16_t x, std::int16_t y, const ActionText& action);
+  void UpdateUpperLayers(std::int16_t x, std::int16_t y, const ActionText& action);
   void StartMusic();
   void CountDraw();
   void ReadHelpMemory();
@@ -155,8 +154,8 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   bool m_bDialogActive = false;
   bool m_bSkipNextClick = false;
   HelpMemory help_;
-  bool music_paused_ = false;    // by a loss of focus, while it played
-  double music_position_ = 0;    // seconds, where it was paused
+  bool music_paused_ = false;  // by a loss of focus, while it played
+  double music_position_ = 0;  // seconds, where it was paused
 };
 
 }  // namespace quendle

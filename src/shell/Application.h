@@ -63,7 +63,6 @@ class Application : private GameStarter {
   void OpenGameWindow() override;
   void EndGameInOrder();
   void ReportFault(const FatalError& error);
-  void ReportFault(std::string text);
   void GiveDisplayBack();
 
   Ports& ports_;
