@@ -18,6 +18,8 @@ frmSafeMode::frmSafeMode(FormServices services, StartUpForm& prompt)
   AddRadio(form_, "Frame1", "optSafe", "Safe Mode", {40, 176, 440, 212});
   SetRadio(form_, "optNormal");
   Finish();
+  // The text is too long for the title bar.
+  form_.Find("Label1")->area = {24, 52, 456, 104};
 }
 
 void frmSafeMode::Ok() {

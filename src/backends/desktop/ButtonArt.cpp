@@ -81,8 +81,8 @@ Box DrawBody(Canvas& canvas, const Look& look, const Rect& area, ButtonState sta
 void DrawWord(Canvas& canvas, TextPainter& text, std::string_view word, Vec centre, double size) {
   TextStyle style{size, true, false, kOutline};
   double rim = std::max(1.0, size * 0.055);
-  const Vec around[] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}, {-.7, -.7}, {.7, -.7}, {-.7, .7},
-                        {.7, .7}, {0, 1.7}};
+  const Vec around[] = {{-1, 0},   {1, 0},    {0, -1},  {0, 1},  {-.7, -.7},
+                        {.7, -.7}, {-.7, .7}, {.7, .7}, {0, 1.7}};
   for (const Vec& step : around) {
     text.DrawCentred(canvas, word, style, {centre.x + step.x * rim, centre.y + step.y * rim});
   }
@@ -126,7 +126,40 @@ void DrawIcon(Canvas& canvas, std::string_view name, Vec c, double r, bool happy
     DrawCross(canvas, c, r * 0.8, kOutline);
     DrawCross(canvas, {c.x, c.y - 1}, r * 0.74, kWhite);
   } else {
-    DrawPaw(canvas, c, r * 0.8, kCream);
+    DrawPaw(canvas, c, r * 0.8, 0, kCream);
+  }
+}
+
+// A tall button carries its word below the picture.
+void DrawStanding(Canvas& canvas, TextPainter& text, std::string_view name, std::string_view word,
+                  const Box& body, ButtonState state) {
+  double size = FittingSize(canvas, text, word, body.height * 0.18, body.width - 16);
+  double icon = std::min(body.Short() * 0.36, (body.height - size * 1.8) / 2 - 4);
+  DrawIcon(canvas, name, {body.Centre().x, body.y + 8 + icon}, icon, state.highlighted);
+  DrawWord(canvas, text, word, {body.Centre().x, body.y + body.height - size}, size);
+}
+
+// Picture, word and sign side by side; in a row of such buttons the pictures stand in a column.
+void DrawLying(Canvas& canvas, TextPainter& text, std::string_view name, std::string_view word,
+               const Box& body, ButtonState state) {
+  bool play = name == "play";
+  double icon = body.height * (play ? 0.42 : 0.36);
+  double sign = play ? body.height * 0.7 : 0;
+  double margin = body.height * 0.12;
+  double gap = body.height * 0.14;
+  double room = body.width - 2 * margin - 2 * icon - gap - sign;
+  double size = FittingSize(canvas, text, word, std::min(body.height * 0.44, 54.0), room);
+  double width = text.WidthOf(word, {size, true, false, kOutline}, canvas.Scale());
+  bool narrow = body.width < 160;
+  double left = body.x + margin + (narrow ? (room - width) / 2 : 0);
+  DrawIcon(canvas, name, {left + icon, body.Centre().y}, icon, state.highlighted);
+  double from = left + 2 * icon + gap;
+  double at = narrow ? from + width / 2 : from + room / 2;
+  DrawWord(canvas, text, word, {at, body.Centre().y}, size);
+  if (play) {
+    Vec centre{body.x + body.width - margin - sign * 0.5, body.Centre().y};
+    DrawPlaySign(canvas, centre, body.height * 0.27, kOutline);
+    DrawPlaySign(canvas, centre, body.height * 0.22, kSun);
   }
 }
 
@@ -141,27 +174,10 @@ void DrawButton(Canvas& canvas, TextPainter& text, std::string_view name, std::s
     DrawTitleSign(canvas, name, body.Centre(), body.Short() * 0.5);
     return;
   }
-  double icon = body.Short() * (name == "play" ? 0.42 : 0.36);
-  bool happy = state.highlighted;
   if (body.width < body.height * 1.6) {
-    // A tall button carries its word below the picture.
-    double size = FittingSize(canvas, text, word, body.height * 0.18, body.width - 16);
-    icon = std::min(icon, (body.height - size * 1.8) / 2 - 4);
-    DrawIcon(canvas, name, {body.Centre().x, body.y + 8 + icon}, icon, happy);
-    DrawWord(canvas, text, word, {body.Centre().x, body.y + body.height - size}, size);
-    return;
-  }
-  double left = body.x + body.height * 0.5;
-  DrawIcon(canvas, name, {left, body.Centre().y}, icon, happy);
-  double from = left + icon + 6;
-  double sign = name == "play" ? body.height * 0.5 : 0;
-  double room = body.x + body.width - body.height * 0.22 - from - sign;
-  double size = FittingSize(canvas, text, word, std::min(body.height * 0.44, 54.0), room);
-  DrawWord(canvas, text, word, {from + room / 2, body.Centre().y}, size);
-  if (name == "play") {
-    Vec at{body.x + body.width - body.height * 0.48, body.Centre().y};
-    DrawPlaySign(canvas, at, body.height * 0.27, kOutline);
-    DrawPlaySign(canvas, at, body.height * 0.22, kSun);
+    DrawStanding(canvas, text, name, word, body, state);
+  } else {
+    DrawLying(canvas, text, name, word, body, state);
   }
 }
 

@@ -95,8 +95,8 @@ Canvas::Canvas(Size size, double scale)
       pixels_(static_cast<std::size_t>(size_.width) * size_.height, 0xFFFFFFFFu) {}
 
 void Canvas::Clear(Rgba color) {
-  std::ranges::fill(pixels_, 0xFF000000u | std::uint32_t{color.r} << 16 |
-                                 std::uint32_t{color.g} << 8 | color.b);
+  std::ranges::fill(
+      pixels_, 0xFF000000u | std::uint32_t{color.r} << 16 | std::uint32_t{color.g} << 8 | color.b);
 }
 
 void Canvas::Fill(const Path& path, Rgba color) { FillWith(path, {color, color, 0, 1}); }

@@ -24,6 +24,8 @@ Uint32 WindowOf(const SDL_Event& event) {
     case SDL_MOUSEBUTTONDOWN:
     case SDL_MOUSEBUTTONUP:
       return event.button.windowID;
+    case SDL_DROPFILE:
+      return event.drop.windowID;
     default:
       return 0;
   }
@@ -36,13 +38,26 @@ bool IsInput(const SDL_Event& event) {
   }
   return event.type == SDL_KEYDOWN || event.type == SDL_KEYUP || event.type == SDL_TEXTINPUT ||
          event.type == SDL_MOUSEMOTION || event.type == SDL_MOUSEBUTTONDOWN ||
-         event.type == SDL_MOUSEBUTTONUP;
+         event.type == SDL_MOUSEBUTTONUP || event.type == SDL_DROPFILE;
 }
 
 bool IsUpkeep(const SDL_Event& event) {
   return event.type == SDL_WINDOWEVENT || event.type == SDL_RENDER_TARGETS_RESET ||
          event.type == SDL_RENDER_DEVICE_RESET;
 }
+
+// The library leaves the name of a dropped file to whoever takes the event.
+class DroppedName {
+ public:
+  explicit DroppedName(const SDL_Event& event)
+      : name_(event.type == SDL_DROPFILE ? event.drop.file : nullptr) {}
+  ~DroppedName() { SDL_free(name_); }
+  DroppedName(const DroppedName&) = delete;
+  DroppedName& operator=(const DroppedName&) = delete;
+
+ private:
+  char* name_;
+};
 
 // Of moves that queue up only the last tells where the pointer is.
 bool IsOvertaken(const SDL_Event& event) {
@@ -70,6 +85,7 @@ bool DesktopEventLoop::HandleWaiting(const std::function<bool()>& done) {
   SDL_Event event;
   while (SDL_PollEvent(&event) != 0) {
     if (IsOvertaken(event)) continue;
+    DroppedName dropped(event);
     Dispatch(event);
     if (done()) return true;
   }

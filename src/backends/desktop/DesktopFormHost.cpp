@@ -35,9 +35,8 @@ void DesktopFormHost::ShowFormInView() {
 }
 
 FormInput* DesktopFormHost::FormInView() {
-  auto found = std::ranges::find_if(forms_, [](const auto& input) {
-    return input->Record().visible && input->Record().enabled;
-  });
+  auto found = std::ranges::find_if(
+      forms_, [](const auto& input) { return input->Record().visible && input->Record().enabled; });
   return found == forms_.end() ? nullptr : found->get();
 }
 

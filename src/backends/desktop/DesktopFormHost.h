@@ -20,6 +20,8 @@ class DesktopFormHost : public FormHost {
   // A form that can't be shown for lack of a display is fatal.
   void Update(Form& form) override;
 
+  // Follows the records now, and not at the end of the event.
+  void ShowFormInView();
   bool ShowsForm() const { return window_->Shown() != nullptr; }
   void Flash() { window_->Flash(); }
 
@@ -38,7 +40,7 @@ class DesktopFormHost : public FormHost {
    private:
     DesktopFormHost& host_;
   };
-  void ShowFormInView();
+
   FormInput* FormInView();
 
   std::shared_ptr<FormWindow> window_;

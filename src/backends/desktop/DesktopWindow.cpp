@@ -28,6 +28,12 @@ Size FirstSize() {
   return {area.Width(), area.Height()};
 }
 
+// The desktop's own mode is kept: switching the monitor's would harm what else stands there.
+Uint32 FullScreenFlag(bool full_screen) {
+  if (!full_screen) return 0;
+  return SDL_WINDOW_FULLSCREEN_DESKTOP;
+}
+
 bool IsAltEnter(const SDL_Event& event) {
   return event.type == SDL_KEYDOWN && event.key.repeat == 0 &&
          (event.key.keysym.sym == SDLK_RETURN || event.key.keysym.sym == SDLK_KP_ENTER) &&
@@ -64,8 +70,8 @@ void DesktopWindow::Show(GameWindowEvents& events) {
 
 void DesktopWindow::Open() {
   Size size = FirstSize();
-  Uint32 flags = SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI |
-                 (options_.full_screen ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0u);
+  Uint32 flags =
+      SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI | FullScreenFlag(options_.full_screen);
   window_.reset(SDL_CreateWindow(ToUtf8(caption_).c_str(), SDL_WINDOWPOS_CENTERED,
                                  SDL_WINDOWPOS_CENTERED, size.width, size.height, flags));
   if (window_ == nullptr) {
@@ -224,8 +230,7 @@ void DesktopWindow::HandleQuit() {
 
 void DesktopWindow::ToggleFullScreen() {
   options_.full_screen = !options_.full_screen;
-  SDL_SetWindowFullscreen(window_.get(),
-                          options_.full_screen ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0u);
+  SDL_SetWindowFullscreen(window_.get(), FullScreenFlag(options_.full_screen));
   overlay_dirty_ = overlay_ != nullptr;
   stale_ = true;
 }
@@ -241,8 +246,7 @@ void DesktopWindow::Activate(bool active) {
 void DesktopWindow::FollowPointer(Point at) {
   if (window_ == nullptr) return;
   if (at.x >= 0) {
-    pointer_on_frame_ =
-        IsOverFrame(at, WindowSize(), renderer_->OutputSize(), options_.scale);
+    pointer_on_frame_ = IsOverFrame(at, WindowSize(), renderer_->OutputSize(), options_.scale);
   }
   bool seen = pointer_wanted_ || overlay_ != nullptr || !pointer_on_frame_;
   SDL_ShowCursor(seen ? SDL_ENABLE : SDL_DISABLE);

@@ -39,7 +39,7 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   bool IsOpen() const { return window_ != nullptr; }
   // Puts a form over the frame, or takes it away with a null one. `input` outlives its showing.
   void SetOverlay(FormInput* input);
-  void RefreshOverlay() { overlay_dirty_ = true; }
+  FormInput* Overlay() { return overlay_; }
   std::string DrawingBackend() const;
 
   void Show(GameWindowEvents& events) override;

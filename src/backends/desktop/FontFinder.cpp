@@ -17,8 +17,8 @@ constexpr std::array<std::string_view, 5> kRegular = {"arial.ttf", "LiberationSa
                                                       "Arimo-Regular.ttf", "FreeSans.ttf",
                                                       "DejaVuSans.ttf"};
 constexpr std::array<std::string_view, 6> kBold = {
-    "arialbd.ttf",      "Arial_Bold.ttf",   "LiberationSans-Bold.ttf",
-    "Arimo-Bold.ttf",   "FreeSansBold.ttf", "DejaVuSans-Bold.ttf"};
+    "arialbd.ttf",    "Arial_Bold.ttf",   "LiberationSans-Bold.ttf",
+    "Arimo-Bold.ttf", "FreeSansBold.ttf", "DejaVuSans-Bold.ttf"};
 
 bool IsFontFile(const fs::path& file) {
   std::string extension = FoldCase(file.extension().string());
@@ -36,8 +36,8 @@ std::size_t RankOf(const std::array<std::string_view, N>& names, const std::stri
 std::vector<fs::path> FilesBelow(const fs::path& folder) {
   std::vector<fs::path> files;
   std::error_code error;
-  fs::recursive_directory_iterator entries(
-      folder, fs::directory_options::skip_permission_denied, error);
+  fs::recursive_directory_iterator entries(folder, fs::directory_options::skip_permission_denied,
+                                           error);
   for (; !error && entries != fs::recursive_directory_iterator(); entries.increment(error)) {
     std::error_code unreadable;
     if (entries->is_regular_file(unreadable)) files.push_back(entries->path());

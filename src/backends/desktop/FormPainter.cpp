@@ -12,6 +12,7 @@ namespace {
 
 using namespace palette;
 
+constexpr double kBevel = 4;      // the lines around a form
 constexpr double kMarkSize = 22;  // of a radio button or check box
 
 Rgba FromColor(Color color) {
@@ -33,7 +34,7 @@ Path Around(const Rect& area, double by, double radius) {
 bool TitleIsLabelled(const Form& form) {
   return std::ranges::any_of(form.controls, [](const Control& control) {
     return control.kind == ControlKind::kLabel && control.visible && !control.text.empty() &&
-           control.area.top < kTitleBand && control.area.bottom <= kTitleBand + 12;
+           control.area.top < kTitleBand;
   });
 }
 
@@ -70,16 +71,18 @@ void FormPainter::PaintGround(Canvas& canvas, const Form& form) {
   canvas.Clear(kCream);
   canvas.FillShaded(Path::Polygon({{0, 0}, {width, 0}, {width, height}, {0, height}}), kCream,
                     kCreamDeep, kTitleBand, height);
-  const double paws[][4] = {{0.10, 0.90, 30, -24}, {0.90, 0.32, 26, 18}, {0.88, 0.86, 38, 24},
-                            {0.12, 0.36, 22, -12}};
+  // Along the bottom, where no text stands.
+  const double paws[][4] = {
+      {44, -34, 26, -24}, {92, -18, 17, -8}, {-46, -38, 36, 24}, {-104, -20, 20, 10}};
   for (const auto& [x, y, radius, turn] : paws) {
-    DrawPaw(canvas, {width * x, height * y}, radius, Hex(0xF3CF9C, 90));
+    Vec centre{x < 0 ? width + x : x, height + y};
+    DrawPaw(canvas, centre, radius, turn, Hex(0xF3CF9C, 110));
   }
   canvas.FillShaded(Path::Polygon({{0, 0}, {width, 0}, {width, kTitleBand}, {0, kTitleBand}}),
                     kPeach, Hex(0xFFBE85), 0, kTitleBand);
   canvas.FillRect(0, kTitleBand, width, 2, Hex(0xE39A5A));
   if (!TitleIsLabelled(form)) {
-    DrawPaw(canvas, {24, kTitleBand / 2.0 + 1}, 12, kOutline);
+    DrawPaw(canvas, {24, kTitleBand / 2.0 + 1}, 12, 0, kOutline);
     TextStyle style{18, true, false, kOutline};
     text_.Draw(canvas, form.caption, style, 44,
                (kTitleBand - text_.LineHeight(style, canvas.Scale())) / 2 + 1);
@@ -109,6 +112,14 @@ void FormPainter::PaintControl(Canvas& canvas, const Control& control, bool pres
       PaintField(canvas, control);
       break;
     case ControlKind::kImage:
+      if (control.picture == "puppy") {
+        Vec centre{(control.area.left + control.area.right) / 2.0,
+                   (control.area.top + control.area.bottom) / 2.0};
+        canvas.Fill(Path::Ellipse(centre, control.area.Width() / 2.0, control.area.Width() / 2.0),
+                    kPeach);
+        DrawPuppy(canvas, centre, control.area.Width() * 0.42, false);
+        break;
+      }
       canvas.Fill(Around(control.area, 0, 6), kPaper);
       canvas.Stroke(Around(control.area, 0, 6), 2, kOutline);
       break;
@@ -131,7 +142,11 @@ void FormPainter::PaintLabel(Canvas& canvas, const Control& control) {
   if (control.hover) style.color = Hex(0xC2410C);
   double line = text_.LineHeight(style, canvas.Scale());
   double y = control.area.top;
-  if (control.area.Height() < 2 * line) y += (control.area.Height() - line) / 2;
+  bool is_title = control.area.top < kTitleBand && control.area.Height() < 2 * line;
+  if (is_title) {
+    y = (kTitleBand + kBevel - line) / 2;
+  } else if (control.area.Height() < 2 * line)
+    y += (control.area.Height() - line) / 2;
   for (const std::string& part :
        text_.Wrap(control.text, style, control.area.Width(), canvas.Scale())) {
     text_.Draw(canvas, part, style, control.area.left, y);
@@ -169,15 +184,21 @@ void FormPainter::PaintChoice(Canvas& canvas, const Control& control, bool press
 
 void FormPainter::PaintFrame(Canvas& canvas, const Control& control) {
   TextStyle style{LetterSize(control.font_size), true, false, LetterColor(control)};
-  double line = text_.LineHeight(style, canvas.Scale());
+  double room = control.area.Width() - 48;
   double width = text_.WidthOf(control.text, style, canvas.Scale());
+  if (width > room) {
+    style.size = std::floor(style.size * room / width);
+    width = text_.WidthOf(control.text, style, canvas.Scale());
+  }
+  double line = text_.LineHeight(style, canvas.Scale());
   double top = control.area.top + line / 2;
   Path box = Path::RoundRect(control.area.left + 1, top, control.area.Width() - 2,
                              control.area.bottom - top - 1, 12);
   canvas.Fill(box, Hex(0xFFFCF5, 215));
   canvas.Stroke(box, 2, Hex(0xE3A35F));
   if (control.text.empty()) return;
-  Path sign = Path::RoundRect(control.area.left + 14, control.area.top - 1, width + 20, line + 2, 9);
+  Path sign =
+      Path::RoundRect(control.area.left + 14, control.area.top - 1, width + 20, line + 2, 9);
   canvas.Fill(sign, kPeach);
   canvas.Stroke(sign, 2, Hex(0xE3A35F));
   text_.Draw(canvas, control.text, style, control.area.left + 24, control.area.top);

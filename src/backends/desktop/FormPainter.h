@@ -13,8 +13,8 @@ inline constexpr int kTitleBand = 40;
 
 // What a host knows of a form beside its record.
 struct FormLook {
-  int pressed = -1;        // position of the control held down, or -1
-  int over = -1;           // position of the control under the pointer, or -1
+  int pressed = -1;         // position of the control held down, or -1
+  int over = -1;            // position of the control under the pointer, or -1
   bool show_focus = false;  // the keyboard is in use: the focus is marked
 };
 

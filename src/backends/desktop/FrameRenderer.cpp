@@ -9,9 +9,7 @@
 namespace quendle {
 namespace {
 
-SDL_Rect ToSdl(const Rect& rect) {
-  return {rect.left, rect.top, rect.Width(), rect.Height()};
-}
+SDL_Rect ToSdl(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
 }  // namespace
 

@@ -73,7 +73,7 @@ void DrawPuppy(Canvas& canvas, Vec c, double r, bool happy) {
   DrawPuppyMouth(canvas, c, r, happy);
 }
 
-void DrawPaw(Canvas& canvas, Vec c, double r, Rgba color) {
+void DrawPaw(Canvas& canvas, Vec c, double r, double degrees, Rgba color) {
   Path pad;
   pad.MoveTo(c.x, c.y - r * 0.08);
   pad.CurveTo({c.x + r * 0.36, c.y - r * 0.08}, {c.x + r * 0.66, c.y + r * 0.40},
@@ -84,12 +84,13 @@ void DrawPaw(Canvas& canvas, Vec c, double r, Rgba color) {
               {c.x - r * 0.50, c.y + r * 0.66});
   pad.CurveTo({c.x - r * 0.66, c.y + r * 0.40}, {c.x - r * 0.36, c.y - r * 0.08},
               {c.x, c.y - r * 0.08});
-  canvas.Fill(pad.Close(), color);
-  const double toes[][3] = {{-0.68, -0.12, -20}, {-0.27, -0.56, -6}, {0.27, -0.56, 6},
-                            {0.68, -0.12, 20}};
+  canvas.Fill(pad.Close().Turned(c, degrees), color);
+  const double toes[][3] = {
+      {-0.68, -0.12, -20}, {-0.27, -0.56, -6}, {0.27, -0.56, 6}, {0.68, -0.12, 20}};
   for (const auto& [x, y, turn] : toes) {
     Vec toe{c.x + r * x, c.y + r * y};
-    canvas.Fill(Path::Ellipse(toe, r * 0.21, r * 0.29).Turned(toe, turn), color);
+    Path print = Path::Ellipse(toe, r * 0.21, r * 0.29).Turned(toe, turn);
+    canvas.Fill(print.Turned(c, degrees), color);
   }
 }
 
@@ -151,9 +152,8 @@ void DrawGlobe(Canvas& canvas, Vec c, double r) {
 }
 
 void DrawPlaySign(Canvas& canvas, Vec c, double r, Rgba color) {
-  Path sign = Path::Polygon({{c.x - r * 0.42, c.y - r * 0.62},
-                             {c.x + r * 0.66, c.y},
-                             {c.x - r * 0.42, c.y + r * 0.62}});
+  Path sign = Path::Polygon(
+      {{c.x - r * 0.42, c.y - r * 0.62}, {c.x + r * 0.66, c.y}, {c.x - r * 0.42, c.y + r * 0.62}});
   canvas.Fill(sign, color);
   canvas.Stroke(sign, r * 0.26, color);
 }

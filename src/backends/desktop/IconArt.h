@@ -7,7 +7,8 @@ namespace quendle {
 
 // A friendly puppy's head; happier (tongue out) when `happy`.
 void DrawPuppy(Canvas& canvas, Vec centre, double radius, bool happy);
-void DrawPaw(Canvas& canvas, Vec centre, double radius, Rgba color);
+// A paw's print, turned by `degrees`.
+void DrawPaw(Canvas& canvas, Vec centre, double radius, double degrees, Rgba color);
 // A child's face in a photograph with a white rim.
 void DrawPhoto(Canvas& canvas, Vec centre, double radius);
 void DrawGear(Canvas& canvas, Vec centre, double radius, Rgba color, Rgba hole);

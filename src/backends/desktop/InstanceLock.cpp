@@ -32,8 +32,8 @@ std::filesystem::path LockFileOf(const std::string& program,
                                  const std::filesystem::path& fallback) {
   const char* run_time = std::getenv("XDG_RUNTIME_DIR");
   std::error_code error;
-  bool usable = run_time != nullptr && *run_time == '/' &&
-                std::filesystem::is_directory(run_time, error);
+  bool usable =
+      run_time != nullptr && *run_time == '/' && std::filesystem::is_directory(run_time, error);
   return (usable ? std::filesystem::path(run_time) : fallback) / (program + ".lock");
 }
 

@@ -23,7 +23,6 @@ class InstanceLock {
 };
 
 // The lock file of a program: in the folder for the session's run time data, else in `fallback`.
-std::filesystem::path LockFileOf(const std::string& program,
-                                 const std::filesystem::path& fallback);
+std::filesystem::path LockFileOf(const std::string& program, const std::filesystem::path& fallback);
 
 }  // namespace quendle

@@ -90,6 +90,9 @@ void SendToForm(const SDL_Event& event, FormInput& input, const FormPlace& place
     case SDL_TEXTINPUT:
       input.Type(event.text.text);
       break;
+    case SDL_DROPFILE:
+      input.Type(event.drop.file);
+      break;
     case SDL_WINDOWEVENT:
       if (event.window.event == SDL_WINDOWEVENT_LEAVE) input.Leave();
       if (event.window.event == SDL_WINDOWEVENT_CLOSE) input.Close();

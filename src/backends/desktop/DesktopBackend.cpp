@@ -1,0 +1,77 @@
+#include "backends/desktop/DesktopBackend.h"
+
+#include <random>
+#include <utility>
+
+#include "base/FatalError.h"
+
+namespace quendle {
+namespace {
+
+std::uint64_t FreshSeed() {
+  std::random_device device;
+  return std::uint64_t{device()} << 32 | device();
+}
+
+// Without content a box is still shown; nothing is read then.
+DiskFolders DiskFoldersOf(const GameFolders& folders) {
+  return {folders.content.empty() ? "/nonexistent" : folders.content, folders.user,
+          folders.fallback};
+}
+
+}  // namespace
+
+DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& options,
+                               GameFolders folders)
+    : folders_(std::move(folders)),
+      loop_(clock_),
+      random_(FreshSeed()),
+      files_(DiskFoldersOf(folders_), faults_),
+      gdi_(files_, screen_, faults_),
+      direct_draw_(gdi_, screen_, faults_),
+      display_modes_(faults_),
+      fonts_(FontFinder::SystemFolders()),
+      text_(fonts_),
+      painter_(text_),
+      forms_(loop_, painter_),
+      window_(
+          std::make_shared<DesktopWindow>(options.window, screen_, gdi_.WindowContext(), painter_)),
+      boxes_(loop_, *window_, painter_, text_),
+      system_(LockFileOf(program, folders_.fallback), [this] { Beep(); }),
+      ports_{files_,       clock_,         loop_.Timers(), random_,  boxes_, gdi_,
+             direct_draw_, display_modes_, filter_graphs_, *window_, forms_, system_} {
+  if (!library_.HasVideo()) {
+    throw FatalError(std::string("no display can be opened: ") + library_.Problem());
+  }
+  loop_.Add(window_);
+  window_->BeforeShow([this] { forms_.ShowFormInView(); });
+}
+
+bool DesktopBackend::TellWhatIsMissing(const std::string& product) {
+  if (!text_.HasFont()) {
+    std::string text = "No font was found. Please install Arial or Liberation Sans.\n";
+    for (const auto& folder : fonts_.Folders()) text += "\n" + folder.string();
+    ShowSystemBox(product, text, {"OK"});
+    return false;
+  }
+  if (folders_.content.empty()) {
+    boxes_.MessageBox(product, ContentMissingText(folders_));
+    return false;
+  }
+  return true;
+}
+
+void DesktopBackend::Run() {
+  loop_.Run([] { return false; });
+}
+
+void DesktopBackend::ShowFatal(const std::string& product, const std::string& text) {
+  boxes_.MessageBox(product, text);
+}
+
+void DesktopBackend::Beep() {
+  window_->Beep();
+  forms_.Flash();
+}
+
+}  // namespace quendle

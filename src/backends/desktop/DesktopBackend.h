@@ -1,0 +1,75 @@
+#pragma once
+
+#include <string>
+
+#include "backends/desktop/DesktopBoxes.h"
+#include "backends/desktop/DesktopClock.h"
+#include "backends/desktop/DesktopEventLoop.h"
+#include "backends/desktop/DesktopFormHost.h"
+#include "backends/desktop/DesktopSystem.h"
+#include "backends/desktop/DesktopWindow.h"
+#include "backends/desktop/FontFinder.h"
+#include "backends/desktop/FormPainter.h"
+#include "backends/desktop/GameFolders.h"
+#include "backends/desktop/GameOptions.h"
+#include "backends/desktop/SdlLibrary.h"
+#include "backends/desktop/SilentFilterGraphs.h"
+#include "backends/desktop/TextPainter.h"
+#include "backends/files/DiskFileSystem.h"
+#include "backends/raster/RasterDirectDraw.h"
+#include "backends/raster/RasterDisplayModes.h"
+#include "backends/raster/RasterGdi.h"
+#include "backends/raster/RasterScreen.h"
+#include "base/SeededRandom.h"
+#include "platform/Faults.h"
+#include "platform/Ports.h"
+
+namespace quendle {
+
+// Everything the game needs of a desktop, built and connected.
+//
+//   DesktopBackend backend("wumbly", options, GameFolders::Find(...));
+//   if (!backend.TellWhatIsMissing()) return 1;
+//   ... a game over backend.GetPorts() that shows its start-up form ...
+//   backend.Run();  // ends by the exception that ends the game
+class DesktopBackend {
+ public:
+  // Without a display: FatalError.
+  DesktopBackend(const std::string& program, const GameOptions& options, GameFolders folders);
+
+  Ports& GetPorts() { return ports_; }
+  // Settings.BaseDirectory of the game.
+  const std::string& BaseDirectory() const { return folders_.content; }
+  // Without content or a font: tells the player in a box and gives false.
+  bool TellWhatIsMissing(const std::string& product);
+  // Runs the event loop for ever: ProcessEnds and FatalError leave through it.
+  void Run();
+  // Shows a fatal error; the game window may stand or not.
+  void ShowFatal(const std::string& product, const std::string& text);
+
+ private:
+  void Beep();
+
+  GameFolders folders_;
+  SdlLibrary library_;
+  DesktopClock clock_;
+  DesktopEventLoop loop_;
+  SeededRandom random_;
+  Faults faults_;  // nothing is planned to fail
+  DiskFileSystem files_;
+  RasterScreen screen_;
+  RasterGdi gdi_;
+  RasterDirectDraw direct_draw_;
+  RasterDisplayModes display_modes_;
+  SilentFilterGraphs filter_graphs_;
+  FontFinder fonts_;
+  TextPainter text_;
+  FormPainter painter_;
+  DesktopFormHost forms_;
+  std::shared_ptr<DesktopWindow> window_;
+  DesktopBoxes boxes_;
+  DesktopSystem system_;
+  Ports ports_;
+};
+
+}  // namespace quendle

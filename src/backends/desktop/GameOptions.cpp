@@ -1,0 +1,35 @@
+#include "backends/desktop/GameOptions.h"
+
+#include <CLI/CLI.hpp>
+#include <map>
+
+namespace quendle {
+
+GameOptions GameOptions::Parse(const std::string& program, int argc, const char* const* argv,
+                               std::optional<int>& exit_code) {
+  GameOptions options;
+  bool in_window = false;
+  CLI::App app("A point-and-click animal clinic for young children.", program);
+  app.add_flag("--window", in_window, "Play in a window; Alt+Enter switches to full screen");
+  const std::map<std::string, ScaleMode> modes = {
+      {"sharp", ScaleMode::kSharp}, {"whole", ScaleMode::kWhole}, {"smooth", ScaleMode::kSmooth}};
+  std::string scale = "sharp";
+  app.add_option("--scale", scale, "How the picture grows: sharp, whole or smooth")
+      ->check(CLI::IsMember({"sharp", "whole", "smooth"}))
+      ->capture_default_str();
+  app.add_option("--content", options.content, "Folder of the game's content")
+      ->check(CLI::ExistingDirectory);
+  app.add_option("--user", options.user, "Folder for saved games and settings");
+  app.add_flag("--version", options.version,
+               "Tell build, libraries, drawing backend and folders, and end");
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    exit_code = app.exit(error) == 0 ? 0 : 2;
+  }
+  options.window.full_screen = !in_window;
+  options.window.scale = modes.at(scale);
+  return options;
+}
+
+}  // namespace quendle

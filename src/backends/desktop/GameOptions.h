@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "backends/desktop/DesktopWindow.h"
+
+namespace quendle {
+
+// What the command line of the game says.
+struct GameOptions {
+  WindowOptions window;
+  std::string content;  // folder of the content; empty: where content is looked for
+  std::string user;     // folder that takes what the game writes; empty: the content, if it can
+  bool version = false;
+
+  // Reads the command line of `program`. Where that ends the program (help, a usage error) the
+  // text was printed and `exit_code` is set: 0, or 2 for an error.
+  static GameOptions Parse(const std::string& program, int argc, const char* const* argv,
+                           std::optional<int>& exit_code);
+};
+
+}  // namespace quendle
