@@ -64,10 +64,10 @@ class KeyedList {
   void RemoveAt(std::size_t index) {
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(Checked(index)));
   }
-  // Removes the first entry of that key; without one nothing happens.
+  // Removes the first entry of that key; without one nothing happens. No entry has the empty key.
   void Remove(std::string_view key) {
     for (auto entry = entries_.begin(); entry != entries_.end(); ++entry) {
-      if (EqualsNoCase(entry->key, key)) {
+      if (!entry->key.empty() && EqualsNoCase(entry->key, key)) {
         entries_.erase(entry);
         return;
       }

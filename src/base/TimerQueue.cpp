@@ -9,11 +9,7 @@
 namespace quendle {
 
 int TimerQueue::SetTimer(Milliseconds interval, std::string callback_name, Callback callback) {
-  int id = 1;
-  for (const auto& [used, timer] : timers_) {
-    if (used != id) break;
-    ++id;
-  }
+  const int id = SmallestFreeId();
   if (id > kLargestId) throw FatalError("more than 32767 timers run at once");
   interval = std::max(interval, kShortestInterval);
   TimerInfo info{id, interval, clock_.Monotonic() + interval, std::move(callback_name)};
@@ -50,6 +46,17 @@ bool TimerQueue::FireNext(Milliseconds now, std::string& fired) {
   Callback callback = timer.callback;
   callback(timer.info.id);
   return true;
+}
+
+int TimerQueue::SmallestFreeId() const {
+  const int count = static_cast<int>(timers_.size());
+  if (count == 0 || timers_.rbegin()->first == count) return count + 1;  // there is no gap
+  int id = 1;
+  for (const auto& [used, timer] : timers_) {
+    if (used != id) break;
+    ++id;
+  }
+  return id;
 }
 
 const TimerQueue::Timer* TimerQueue::Earliest() const {

@@ -33,6 +33,7 @@ class TimerQueue : public TimerService {
     Callback callback;
     long order = 0;  // of the start, among timers due together
   };
+  int SmallestFreeId() const;
   const Timer* Earliest() const;
 
   Clock& clock_;

@@ -53,7 +53,7 @@ class DepthGuard {
   }
   ~DepthGuard() {
     --depth_.depth_;
-    if (std::uncaught_exceptions() > 0 && !depth_.noted_) Note();
+    if (std::uncaught_exceptions() > uncaught_ && !depth_.noted_) Note();
   }
   DepthGuard(const DepthGuard&) = delete;
   DepthGuard& operator=(const DepthGuard&) = delete;
@@ -67,6 +67,8 @@ class DepthGuard {
   std::string_view text_;
   const WorkPlace* place_;
   const FilePlace* origin_;
+  // At the start: a level that passes whole while another fault unwinds has not failed.
+  int uncaught_ = std::uncaught_exceptions();
 };
 
 }  // namespace quendle

@@ -5,6 +5,7 @@
 
 #include "base/KeyedList.h"
 #include "object/GameObjectInterface.h"
+#include "platform/DirectDraw.h"
 
 namespace quendle {
 
@@ -14,7 +15,6 @@ struct MediaWorld;
 struct PlacedFrame;
 struct ScriptWorld;
 struct Watch;
-enum class DrawStatus : std::uint32_t;
 
 // A tool that sees each frame that is drawn.
 class BlitWatcher {

@@ -14,9 +14,10 @@ namespace {
 // The line at `position`; past the last line is fatal.
 const ScriptLine& LineAt(const std::vector<ScriptLine>& lines, std::size_t position) {
   if (position > lines.size()) {
-    throw FatalError("the script ends inside a block that isn't closed (a block needs one "
-                     "statement and a line \"end\" or \"endif\")",
-                     lines.empty() ? FilePlace{} : lines.back().place);
+    throw FatalError(
+        "the script ends inside a block that isn't closed (a block needs one "
+        "statement and a line \"end\" or \"endif\")",
+        lines.empty() ? FilePlace{} : lines.back().place);
   }
   return lines[position - 1];
 }
@@ -56,19 +57,26 @@ std::string WithoutBlockWord(const std::string& line) {
 
 std::string_view NodeTypeName(NodeType type) {
   switch (type) {
-    case NodeType::kNone: return "";
-    case NodeType::kBegin: return "begin";
-    case NodeType::kIf: return "if";
-    case NodeType::kBoolIf: return "boolif1";
-    case NodeType::kBoolElseIf: return "boolelseif1";
-    case NodeType::kBoolElse: return "boolelse1";
-    case NodeType::kAction: return "action";
+    case NodeType::kNone:
+      return "";
+    case NodeType::kBegin:
+      return "begin";
+    case NodeType::kIf:
+      return "if";
+    case NodeType::kBoolIf:
+      return "boolif1";
+    case NodeType::kBoolElseIf:
+      return "boolelseif1";
+    case NodeType::kBoolElse:
+      return "boolelse1";
+    case NodeType::kAction:
+      return "action";
   }
   return "";
 }
 
-void Command::Parse(const std::vector<ScriptLine>& lines, std::size_t& position,
-                    std::string& stack, WorkDepth& depth) {
+void Command::Parse(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
+                    WorkDepth& depth) {
   const ScriptLine& line = LineAt(lines, position);
   DepthGuard guard(depth, Work::kLoad, line.text);
   place_ = line.place;
@@ -157,7 +165,9 @@ bool Command::Holds(const ScriptVariables& variables) const {
 
 Answer Command::Execute(const ScriptVariables& variables, ScriptTarget& target) const {
   switch (type_) {
-    case NodeType::kBegin: ExecuteChildren(variables, target); return Answer::kEmpty;
+    case NodeType::kBegin:
+      ExecuteChildren(variables, target);
+      return Answer::kEmpty;
     case NodeType::kIf:
       for (const Command& branch : children_) {
         if (branch.Execute(variables, target) == Answer::kTrue) break;
@@ -168,13 +178,16 @@ Answer Command::Execute(const ScriptVariables& variables, ScriptTarget& target) 
       if (!Holds(variables)) return Answer::kFalse;
       ExecuteChildren(variables, target);
       return Answer::kTrue;
-    case NodeType::kBoolElse: ExecuteChildren(variables, target); return Answer::kTrue;
+    case NodeType::kBoolElse:
+      ExecuteChildren(variables, target);
+      return Answer::kTrue;
     case NodeType::kAction: {
       bool unused = false;
       target.Interpret(*statement_, false, unused);
       return Answer::kEmpty;
     }
-    case NodeType::kNone: return Answer::kEmpty;
+    case NodeType::kNone:
+      return Answer::kEmpty;
   }
   return Answer::kEmpty;
 }
@@ -185,13 +198,24 @@ void Command::ExecuteChildren(const ScriptVariables& variables, ScriptTarget& ta
 
 void Command::PrintCommand(std::vector<std::string>& lines) const {
   switch (type_) {
-    case NodeType::kBegin: lines.emplace_back("begin"); break;
-    case NodeType::kBoolIf: lines.push_back("if" + text_); break;
-    case NodeType::kBoolElseIf: lines.push_back("elseif" + text_); break;
-    case NodeType::kBoolElse: lines.push_back("else" + text_); break;
-    case NodeType::kAction: lines.push_back(text_); break;
+    case NodeType::kBegin:
+      lines.emplace_back("begin");
+      break;
+    case NodeType::kBoolIf:
+      lines.push_back("if" + text_);
+      break;
+    case NodeType::kBoolElseIf:
+      lines.push_back("elseif" + text_);
+      break;
+    case NodeType::kBoolElse:
+      lines.push_back("else" + text_);
+      break;
+    case NodeType::kAction:
+      lines.push_back(text_);
+      break;
     case NodeType::kIf:
-    case NodeType::kNone: break;
+    case NodeType::kNone:
+      break;
   }
   for (const Command& child : children_) child.PrintCommand(lines);
   if (type_ == NodeType::kBegin) lines.emplace_back("end");

@@ -77,7 +77,7 @@ class Command {
   std::string text_;
   FilePlace place_;
   std::vector<Command> children_;
-  Condition condition_;                  // of a boolif1 or boolelseif1
+  Condition condition_;                 // of a boolif1 or boolelseif1
   std::optional<Statement> statement_;  // of an action
 };
 

@@ -42,8 +42,10 @@ bool Pattern::Matches(const ActionText& action) const {
 bool Pattern::MatchesSlowly(const ActionText& action) const {
   const std::string& text = action.Folded();
   switch (kind_) {
-    case Kind::kEqual: return text == needle_;
-    case Kind::kAtFront: return text.starts_with(needle_);
+    case Kind::kEqual:
+      return text == needle_;
+    case Kind::kAtFront:
+      return text.starts_with(needle_);
     case Kind::kAtEnd:
       return needle_.empty() ||
              (text.ends_with(needle_) && text.find(needle_) == text.size() - needle_.size());

@@ -39,6 +39,8 @@ class DiskFileSystem : public FileSystem {
  public:
   // `faults` must outlive this object; this object must outlive its line writers.
   DiskFileSystem(const DiskFolders& folders, Faults& faults);
+  DiskFileSystem(const DiskFileSystem&) = delete;
+  DiskFileSystem& operator=(const DiskFileSystem&) = delete;
 
   bool Exists(std::string_view path) override;
   std::optional<std::string> Read(std::string_view path) override;

@@ -114,4 +114,25 @@ void CopyBlock(RasterBitmap& target, RasterBitmap& source, const Block& block, R
   }
 }
 
+void CopyBlockKeyed(RasterBitmap& target, RasterBitmap& source, const Block& block,
+                    std::uint32_t key) {
+  // The spans are those of the whole rectangle, so that a picture which slides over the edge of
+  // the target finds them again.
+  const Block whole = ClipBlock({{0, 0}, block.from, block.size}, block.size, source.GetSize());
+  const Block seen = ClipBlock(block, target.GetSize(), source.GetSize());
+  if (seen.size.width == 0) return;
+  const Rect area{whole.from.x, whole.from.y, whole.from.x + whole.size.width,
+                  whole.from.y + whole.size.height};
+  const OpaqueSpans& spans = source.Spans(area, key);
+  const std::uint32_t* from = source.At(area.left, area.top);
+  std::uint32_t* to = target.WritableAt(seen.to.x, seen.to.y);
+  if (seen.size == whole.size) {
+    spans.Copy(from, source.Width(), to, target.Width());
+    return;
+  }
+  const int left = seen.from.x - area.left, top = seen.from.y - area.top;
+  spans.CopyPart({left, top, left + seen.size.width, top + seen.size.height}, from, source.Width(),
+                 to, target.Width());
+}
+
 }  // namespace quendle

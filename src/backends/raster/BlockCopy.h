@@ -25,4 +25,9 @@ struct BlockColors {
 void CopyBlock(RasterBitmap& target, RasterBitmap& source, const Block& block, RasterOp operation,
                const BlockColors& colors);
 
+// Copies a block, clipped to both bitmaps, but for pixels that are the word `key`. Two bitmaps of
+// one format.
+void CopyBlockKeyed(RasterBitmap& target, RasterBitmap& source, const Block& block,
+                    std::uint32_t key);
+
 }  // namespace quendle

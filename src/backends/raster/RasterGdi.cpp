@@ -113,30 +113,11 @@ bool RasterGdi::TransparentBlt(ContextHandle destination, Point to, Size size, C
   Context* target = FindDrawable(destination);
   Context* origin = FindDrawable(source);
   if (target == nullptr || origin == nullptr || faults_.Fails("TransparentBlt")) return false;
-  RasterBitmap& picture = *origin->bitmap;
-  if (picture.Format() != target->bitmap->Format() || origin->bitmap == target->bitmap) {
+  if (origin->bitmap->Format() != target->bitmap->Format() || origin->bitmap == target->bitmap) {
     return false;
   }
-  // The spans are those of the whole rectangle, so that a picture which slides over the edge of
-  // the destination finds them again.
-  const Block whole = ClipBlock({{0, 0}, from, size}, size, picture.GetSize());
-  const Block block = ClipBlock({to, from, size}, target->bitmap->GetSize(), picture.GetSize());
-  if (block.size.width == 0) return true;
-  const Rect area{whole.from.x, whole.from.y, whole.from.x + whole.size.width,
-                  whole.from.y + whole.size.height};
-  const OpaqueSpans& spans = picture.Spans(area, key < 0 ? kNoWord : WordOf(key));
-  const Point in_area{block.from.x - area.left, block.from.y - area.top};
-  const std::uint32_t* pixels = picture.At(area.left, area.top);
-  std::uint32_t* drawn =
-      target->bitmap->WritableAt(block.to.x, block.to.y) -
-      (static_cast<std::ptrdiff_t>(in_area.y) * target->bitmap->Width() + in_area.x);
-  if (block.size == whole.size) {
-    spans.Copy(pixels, picture.Width(), drawn, target->bitmap->Width());
-  } else {
-    spans.CopyPart(
-        {in_area.x, in_area.y, in_area.x + block.size.width, in_area.y + block.size.height}, pixels,
-        picture.Width(), drawn, target->bitmap->Width());
-  }
+  CopyBlockKeyed(*target->bitmap, *origin->bitmap, {to, from, size},
+                 key < 0 ? kNoWord : WordOf(key));
   Drawn(*target);
   return true;
 }

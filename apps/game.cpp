@@ -1,0 +1,28 @@
+// The game itself. One source serves both editions; QUENDLE_EDITION tells them apart.
+
+#include "backends/desktop/DesktopBackend.h"
+#include "backends/desktop/RunOnDesktop.h"
+#include "shell/Application.h"
+
+namespace {
+
+using quendle::Application;
+using quendle::DesktopBackend;
+
+constexpr std::int16_t kEdition = QUENDLE_EDITION;
+
+int Play(DesktopBackend& backend) {
+  Application application(backend.GetPorts(), kEdition, backend.BaseDirectory());
+  application.Start();
+  application.Deliver([&backend] { backend.Run(); });
+  return application.GetStatus() == Application::Status::kFailed ? 1 : 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const bool sibling = kEdition == 1;
+  const quendle::ProgramInfo info{sibling ? "tandrel" : "wumbly", sibling ? "Tandrel" : "Wumbly",
+                                  QUENDLE_VERSION " (" QUENDLE_BUILD ")"};
+  return quendle::RunOnDesktop(info, argc, argv, Play);
+}

@@ -1,0 +1,161 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/Words.h"
+#include "logic/GameHost.h"
+#include "object/ObjectWorld.h"
+#include "screens/ScreenKeeper.h"
+
+namespace quendle {
+
+class ActionText;
+class SoundState;
+
+// Which one-time help has been given; the order is that of "HelpSys.txt".
+struct HelpMemory {
+  bool m_bHelpMedicalBook = false;
+  bool m_bHelpPatientRoom = false;
+  bool m_bHelpToolRoom = false;
+  bool m_bHelpElevator = false;
+  bool m_bHelpToolItem = false;
+};
+
+// The root of the running game: three live screens, the pointer, the music, the help memory, and
+// the messages that no object takes. Every screen's parent. Held by a shared_ptr.
+class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this<GameLogicLayer> {
+ public:
+  static constexpr int kDrawInterval = 50;             // milliseconds
+  static constexpr std::int16_t kMusicRestart = 3500;  // draws
+
+  // Both must outlive the layer.
+  GameLogicLayer(ObjectWorld& world, GameHost& host);
+  ~GameLogicLayer() override;
+
+  // Reads the screen table, makes the back buffer, loads help memory and saved game (by name,
+  // beside the executable).
+  void Initialize(ContextHandle window_context, const std::string& saved_game);
+  // Turns on "introscreen", the music, "tools" and "cursors", and starts drawing. A screen that is
+  // missing is fatal.
+  void TurnOn();
+  // Stops drawing, writes the saved game (unless it was reset) and the help memory.
+  void TurnOff();
+  // Lets go of everything; safe to call again.
+  void Release();
+
+  // A press or a move of the pointer, in pixels of the frame.
+  void MapMouseClick(std::int16_t x, std::int16_t y);
+  void MapMouseCoords(std::int16_t x, std::int16_t y);
+  // Paints and presents one frame.
+  void draw();
+  // Paints a frame without counting or presenting it.
+  void Compose();
+
+  void HandleMessage(const std::string& message, GameObjectInterface* sender, bool verifying,
+                     bool& result) override;
+
+  // The focus is lost or found: the music pauses, and goes on where it was.
+  void PauseSound();
+  void PlaySound();
+  // Keeps what play has changed in "autosave.txt"; a failure is logged only.
+  void Autosave();
+
+  const std::string& ObjectType() const { return ObjectType_; }
+  void SetObjectType(std::string type) { ObjectType_ = std::move(type); }
+
+  // The state, for tools.
+  const ObjectRef& ToolsScreen() const { return m_ptrToolsScreen; }
+  const ObjectRef& CursorsScreen() const { return m_ptrCursorsScreen; }
+  const ObjectRef& CurrentScreen() const { return m_ptrCurrentScreen; }
+  const ObjectRef& PreviousScreen() const { return m_ptrPreviousScreen; }
+  const std::string& CurrentCursor() const { return m_strCurrentCursor; }
+  const std::string& PreviousCursor() const { return m_strPreviousCursor; }
+  const std::string& ToolsState() const { return m_strToolsState; }
+  bool DialogActive() const { return m_bDialogActive; }
+  bool SkipNextClick() const { return m_bSkipNextClick; }
+  bool GameReset() const { return m_bGameReset; }
+  std::int16_t FrameCounter() const { return m_nFrameCounter; }
+  const HelpMemory& Help() const { return help_; }
+  const SoundState* Music() const { return m_ptrMusic.get(); }
+  ScreenKeeper* Keeper() const { return m_ptrScreenKeeper.get(); }
+  // The window path's back buffer; 0 before Initialize.
+  ContextHandle BackContext() const { return back_context_; }
+
+ private:
+  struct Call;
+  struct Row;
+  static const std::vector<Row>& MessageTable();
+  bool VerifyRow(const Row& row, const Call& call) const;
+
+  void CursorChange(Call& call);
+  void ToolAnswer(Call& call);
+  void PassToScreen(Call& call);
+  void BackFromSubgame(Call& call);
+  void SubgameEvent(Call& call);
+  void ResetAllTools(Call& call);
+  void ResetTools(Call& call);
+  void BuyNow(Call& call);
+  void BackOneScreen(Call& call);
+  void ChangeScreen(Call& call);
+  void RemoveCurrentTool(Call& call);
+  void ToCurrentScreen(Call& call);
+  void MouseClickMessage(Call& call);
+  void MouseMoveMessage(Call& call);
+  void HideObject(Call& call);
+  void PlayMusic(Call& call);
+  void StopMusic(Call& call);
+  void ResetGame(Call& call);
+  void ExitOnDemand(Call& call);
+  void EndExitOnDemand(Call& call);
+  void ExitGame(Call& call);
+
+  ObjectRef RequireScreen(const std::string& name);
+  void SendToCurrent(const std::string& message);
+  void SendToTools(const std::string& message);
+  void EndSubgame(const char* patient_message);
+  void EnterScreen(const std::string& name);
+  void GiveOneTimeHelp(const std::string& name);
+  void UpdateUpperLayers(std::int16_t x, std::int16_t y, const ActionText& action);
+  void StartMusic();
+  void CountDraw();
+  void ReadHelpMemory();
+  void WriteHelpMemory() const;
+  void MakeBackBuffer(ContextHandle window_context);
+  void DropBackBuffer();
+  void KillDrawTimer();
+
+  ObjectWorld& world_;
+  GameHost& host_;
+  std::string ObjectType_ = "GameLogic";
+
+  // Valid from Initialize to Release.
+  std::unique_ptr<ScreenKeeper> m_ptrScreenKeeper;
+  ContextHandle back_context_ = 0;
+  int back_bitmap_ = 0;
+
+  // Change in play.
+  ObjectRef m_ptrToolsScreen;
+  ObjectRef m_ptrCursorsScreen;
+  ObjectRef m_ptrCurrentScreen;
+  ObjectRef m_ptrPreviousScreen;
+  ObjectRef m_ptrCursorObject;
+  ObjectRef m_ptrPersonCursor;
+  std::unique_ptr<SoundState> m_ptrMusic;
+  std::string m_strCurrentCursor;
+  std::string m_strPreviousCursor;
+  std::string m_strToolsState = "off";
+  std::int32_t m_nDrawTimer = 0;
+  std::int16_t m_nFrameCounter = 0;
+  int draws_since_autosave_ = 0;
+  bool m_bGameReset = false;
+  bool m_bDialogActive = false;
+  bool m_bSkipNextClick = false;
+  HelpMemory help_;
+  bool music_paused_ = false;  // by a loss of focus, while it played
+  double music_position_ = 0;  // seconds, where it was paused
+};
+
+}  // namespace quendle

@@ -1,0 +1,16 @@
+#include "logic/MenuObject.h"
+
+namespace quendle {
+
+void MenuObject::AddChildObject(ObjectRef) {}
+
+void MenuObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
+                               bool verifying, bool& result) {
+  if (ContainsNoCase(message, "scorevalue")) {
+    Inner().NotifyChild(message, "scoring");
+  } else {
+    Inner().HandleMessage(message, sender, verifying, result);
+  }
+}
+
+}  // namespace quendle

@@ -1,0 +1,177 @@
+#include "logic/ScreenObject.h"
+
+#include "base/Numbers.h"
+#include "base/Words.h"
+
+namespace quendle {
+namespace {
+
+// The geometry of the bar, in pixels.
+constexpr int kBarTop = 500;
+constexpr int kFirstSlot = 60;
+constexpr int kSlotWidth = 85;
+constexpr int kLeftArrow = 15;
+constexpr int kRightArrows = 570;
+constexpr int kArrowWidth = 50;
+
+constexpr std::size_t kScrollingCount = 9;  // children from which on the bar scrolls
+constexpr int kSlotsShown = 6;
+
+bool IsTool(const GameObjectInterface& child) { return EqualsNoCase(child.ObjectType(), "tool"); }
+
+void Show(GameObjectInterface& child, int x) {
+  child.Setxpos(ToInt16(x, "xpos of a tool"));
+  child.Setypos(kBarTop);
+  child.SetVisible(true);
+}
+
+bool HoldsAny(const std::string& message, std::initializer_list<std::string_view> words) {
+  for (std::string_view word : words) {
+    if (ContainsNoCase(message, word)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void ScreenObject::LoadObject(const LoadArguments& arguments) {
+  m_bIsToolBar = EqualsNoCase(arguments.name, "tools");
+  ForwardingObject::LoadObject(arguments);
+}
+
+void ScreenObject::AddChildObject(ObjectRef child) {
+  ForwardingObject::AddChildObject(std::move(child));
+  if (m_bIsToolBar) ArrangeTools();
+}
+
+void ScreenObject::RemoveChild(const std::string& name) {
+  ForwardingObject::RemoveChild(name);
+  if (m_bIsToolBar) ArrangeTools();
+}
+
+void ScreenObject::TurnOn() {
+  ForwardingObject::TurnOn();
+  if (m_bIsToolBar) ArrangeTools();
+}
+
+void ScreenObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
+                                 bool verifying, bool& result) {
+  if (ContainsNoCase(message, "addglobalobj")) {
+    AddGlobalObject(message, sender, verifying, result);
+  } else if (EqualsNoCase(message, "inctoolcounter")) {
+    if (!verifying) Scroll(1);
+  } else if (EqualsNoCase(message, "dectoolcounter")) {
+    if (!verifying) Scroll(-1);
+  } else if (ContainsNoCase(message, "tool") &&
+             !HoldsAny(message, {"removeobj", "runscript", "toobj"})) {
+    // Messages on tools go straight up to the rules of the game.
+    Inner().NotifyParent(message, verifying, result);
+  } else if (ContainsNoCase(message, "subgame")) {
+    Inner().NotifyParent(message, verifying, result);
+  } else if (ContainsNoCase(message, "removeallchildren") && IsNamedTools()) {
+    if (!verifying) RemoveTools(false);
+  } else if (ContainsNoCase(message, "removechildren") && IsNamedTools()) {
+    if (!verifying) RemoveTools(true);
+  } else if (ContainsNoCase(message, "addchild?") && IsNamedTools()) {
+    AnswerOffer(message, verifying, result);
+  } else {
+    Inner().HandleMessage(message, sender, verifying, result);
+  }
+}
+
+bool ScreenObject::IsNamedTools() const { return EqualsNoCase(ObjectName(), "tools"); }
+
+void ScreenObject::AddGlobalObject(const std::string& message, GameObjectInterface* sender,
+                                   bool verifying, bool& result) {
+  Inner().HandleMessage(message, sender, verifying, result);
+  if (!m_bIsToolBar || verifying) return;
+  const std::size_t count = Inner().Children().Count();
+  if (count < kScrollingCount - 1) return;
+  // A tool that was just won stays in view.
+  m_nToolOffset = ToInt16(static_cast<double>(count - (kScrollingCount - 1)), "tool offset");
+  ArrangeTools();
+}
+
+void ScreenObject::Scroll(int step) {
+  const int count = static_cast<int>(Inner().Children().Count());
+  const bool possible = step > 0 ? m_nToolOffset + kSlotsShown <= count : m_nToolOffset > 0;
+  if (possible) m_nToolOffset = static_cast<std::int16_t>(m_nToolOffset + step);
+  ArrangeTools();
+}
+
+void ScreenObject::RemoveTools(bool spare_medical_book) {
+  ObjectList& children = Inner().Children();
+  for (std::size_t i = 1; i <= children.Count();) {
+    ObjectRef child = children.Item(i);
+    const std::string& name = child->ObjectName();
+    const bool spared = !IsTool(*child) || EqualsNoCase(name, "handtool") ||
+                        (spare_medical_book && EqualsNoCase(name, "medicalbooktool"));
+    if (spared) {
+      ++i;
+    } else {
+      Inner().RemoveChild(name);
+    }
+  }
+}
+
+void ScreenObject::AnswerOffer(const std::string& message, bool verifying, bool& result) {
+  const Words words(message, '_');
+  const std::string& offered = words[2];
+  ObjectList& children = Inner().Children();
+  for (const auto& entry : children) {
+    if (EqualsNoCase(StripToolWords(entry.value->ObjectName()), offered)) {
+      Inner().NotifyParent("tool_alreadyhavetool", verifying, result);
+      return;
+    }
+  }
+  const bool full = children.Count() >= kToolLimit;
+  Inner().NotifyParent(full ? "tool_toomany" : "tool_yes_" + offered, verifying, result);
+}
+
+void ScreenObject::ArrangeTools() {
+  if (Inner().Children().Count() < kScrollingCount) {
+    ArrangeAllTools();
+  } else {
+    ArrangeScrolledTools();
+  }
+}
+
+void ScreenObject::ArrangeAllTools() {
+  int slot = 0;
+  for (auto& entry : Inner().Children()) {
+    GameObjectInterface& child = *entry.value;
+    if (IsTool(child)) {
+      Show(child, slot++ * kSlotWidth + kFirstSlot);
+    } else {
+      child.SetVisible(false);
+    }
+  }
+}
+
+void ScreenObject::ArrangeScrolledTools() {
+  int skipped = m_nToolOffset;
+  int slot = 0;
+  int others = 0;
+  for (auto& entry : Inner().Children()) {
+    GameObjectInterface& child = *entry.value;
+    if (!IsTool(child)) {
+      Show(child, others == 0 ? kLeftArrow : others * kArrowWidth + kRightArrows);
+      ++others;
+    } else if (skipped > 0) {
+      --skipped;
+      child.SetVisible(false);
+    } else if (slot == kSlotsShown) {
+      child.SetVisible(false);
+    } else {
+      Show(child, slot++ * kSlotWidth + kFirstSlot);
+    }
+  }
+}
+
+void ScreenObject::Describe(Inspector& inspector) const {
+  ForwardingObject::Describe(inspector);
+  inspector.Flag("m_bIsToolBar", m_bIsToolBar);
+  inspector.Field("m_nToolOffset", static_cast<long>(m_nToolOffset));
+}
+
+}  // namespace quendle

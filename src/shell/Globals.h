@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+
+#include "base/ContentFiles.h"
+#include "base/Settings.h"
+#include "base/Watch.h"
+#include "media/MediaWorld.h"
+#include "object/ObjectFactory.h"
+#include "object/ObjectWorld.h"
+#include "platform/Ports.h"
+#include "script/ScriptWorld.h"
+
+namespace quendle {
+
+class GameLogicLayer;
+class TestingObject;
+
+// Everything that one game run shares, each world on the one below. Registries are created empty.
+struct Globals {
+  // All references must outlive the run.
+  Globals(Settings& settings, Ports& ports, ContentFiles& content);
+  ~Globals();
+  Globals(const Globals&) = delete;
+  Globals& operator=(const Globals&) = delete;
+
+  Watch watch;
+  MediaWorld media;
+  ScriptWorld scripts;
+  ObjectFactory factory;  // knows every type word
+  ObjectWorld objects;
+  std::unique_ptr<TestingObject> EventLog;
+  std::shared_ptr<GameLogicLayer> GameLogic;  // null before it is created and after its end
+};
+
+}  // namespace quendle

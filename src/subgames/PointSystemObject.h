@@ -1,0 +1,13 @@
+#pragma once
+
+#include "object/ForwardingObject.h"
+
+namespace quendle {
+
+// Counts points by name.
+class PointSystemObject : public ForwardingObject {
+ public:
+  using ForwardingObject::ForwardingObject;
+};
+
+}  // namespace quendle

@@ -1,0 +1,85 @@
+#include "toolbelt/ToolBelt.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
+#include <memory>
+
+#include "toolbelt/Drive.h"
+#include "toolbelt/DriveCommand.h"
+#include "toolbelt/PictureTool.h"
+
+namespace quendle {
+namespace {
+
+constexpr int kUsageError = 2;
+
+void AddPicture(CLI::App& belt) {
+  CLI::App* picture = belt.add_subcommand(
+      "picture",
+      "Makes a keyed 24-bit bitmap of a PNG file: hard edges at half alpha, the ground exactly "
+      "200,200,200");
+  auto input = std::make_shared<std::string>();
+  auto output = std::make_shared<std::string>();
+  picture->add_option("IN.png", *input, "The picture")->required();
+  picture->add_option("OUT.bmp", *output, "The bitmap to write")->required();
+  picture->callback([input, output] { MakeKeyedBitmap(*input, *output); });
+}
+
+void AddDrive(CLI::App& belt, int& exit_code) {
+  CLI::App* drive =
+      belt.add_subcommand("drive", "Plays the game in virtual time, driven by one command a line");
+  auto settings = std::make_shared<DriveSettings>();
+  auto path = std::make_shared<std::string>("directdraw");
+  DriveOptions& options = settings->options;
+  drive->add_option("--content", settings->content, "The content tree")
+      ->required()
+      ->check(CLI::ExistingDirectory);
+  drive->add_option("--user", settings->user,
+                    "Where everything is written; without it, the content tree");
+  drive->add_option("--edition", options.edition, "2 is the product, 1 its sibling")
+      ->check(CLI::IsMember({1, 2}))
+      ->capture_default_str();
+  drive->add_option("--seed", options.seed, "Where chance begins")->capture_default_str();
+  drive->add_option("--path", *path, "directdraw, or window: the first drawing path fails")
+      ->check(CLI::IsMember({"directdraw", "window"}))
+      ->capture_default_str();
+  drive->add_flag("--other-instance", options.other_instance, "Another instance runs already");
+  drive->add_option("--system", options.system_version, "Major version of the system");
+  drive->add_option("FILE", settings->file, "The commands; without it, standard input")
+      ->check(CLI::ExistingFile);
+  drive->footer(
+      "Each command is answered by one line of JSON. A line that begins with # is a comment.\n"
+      "Exit code 0, or 3 when the game ended fatally. Commands:\n\n" +
+      CommandHelp());
+  drive->callback([settings, path, &exit_code] {
+    settings->options.window_path = *path == "window";
+    exit_code = RunDrive(*settings);
+  });
+}
+
+}  // namespace
+
+int RunToolBelt(std::vector<std::string> words) {
+  CLI::App belt("The tool belt of the clinic's authors. No window is ever needed.", "quendle");
+  belt.require_subcommand(0, 1);  // none at all is answered below, with the help
+  int exit_code = 0;
+  AddDrive(belt, exit_code);
+  AddPicture(belt);
+  std::ranges::reverse(words);  // the parser takes them from the back
+  try {
+    belt.parse(words);
+  } catch (const CLI::ParseError& error) {
+    return belt.exit(error) == 0 ? 0 : kUsageError;
+  } catch (const std::exception& error) {
+    std::cerr << "quendle: " << error.what() << "\n";
+    return 1;
+  }
+  if (belt.get_subcommands().empty()) {
+    std::cerr << belt.help();
+    return kUsageError;
+  }
+  return exit_code;
+}
+
+}  // namespace quendle

@@ -1,0 +1,198 @@
+#include "base/WorkDepth.h"
+
+#include <gtest/gtest.h>
+
+#include "base/ProcessEnds.h"
+
+namespace quendle {
+namespace {
+
+class Place : public WorkPlace {
+ public:
+  explicit Place(std::string path) : path_(std::move(path)) {}
+  std::string WorkPath() const override { return path_; }
+
+ private:
+  std::string path_;
+};
+
+class UnknownPlace : public WorkPlace {
+ public:
+  std::string WorkPath() const override { throw std::bad_alloc(); }
+};
+
+void Nest(WorkDepth& depth, int levels, Work work, const std::string& text) {
+  DepthGuard guard(depth, work, text);
+  if (levels > 1) Nest(depth, levels - 1, work, text);
+}
+
+std::string FaultAtDepth(WorkDepth& depth, int levels, Work work, const std::string& text) {
+  try {
+    Nest(depth, levels, work, text);
+  } catch (const FatalError& error) {
+    return error.what();
+  }
+  return "no fault";
+}
+
+TEST(WorkDepth, CountsLevelsAndComesBackToNone) {
+  WorkDepth depth;
+  {
+    DepthGuard outer(depth, Work::kLoad, "a.txt");
+    DepthGuard inner(depth, Work::kMessage, "show");
+    EXPECT_EQ(depth.Depth(), 2);
+  }
+  EXPECT_EQ(depth.Depth(), 0);
+}
+
+TEST(WorkDepth, TakesTwoHundredLevels) {
+  WorkDepth depth;
+  EXPECT_EQ(FaultAtDepth(depth, 200, Work::kMessage, "ping"), "no fault");
+  EXPECT_EQ(depth.Depth(), 0);
+}
+
+TEST(WorkDepth, OneLevelMoreIsFatalAndNamesTheWork) {
+  const std::string front = "more than 200 levels deep: the content goes round in circles at ";
+  const std::pair<Work, std::string> nouns[] = {{Work::kMessage, "message"},
+                                                {Work::kScript, "script line"},
+                                                {Work::kLoad, "file"},
+                                                {Work::kTreeWalk, "walk over the tree"}};
+  for (const auto& [work, noun] : nouns) {
+    WorkDepth depth;
+    EXPECT_EQ(FaultAtDepth(depth, 201, work, "ping"), front + noun + " \"ping\"");
+    EXPECT_EQ(depth.Depth(), 0) << "the count is right again after the fault";
+  }
+}
+
+TEST(WorkDepth, AFaultTellsTheInnermostMessageAndItsObject) {
+  WorkDepth depth;
+  Place hall("hall");
+  Place door("hall/door");
+  try {
+    DepthGuard outer(depth, Work::kMessage, "toobj_door_open", &hall);
+    DepthGuard middle(depth, Work::kMessage, "open", &door);
+    throw FatalError("fault");
+  } catch (const FatalError&) {
+  }
+  EXPECT_EQ(depth.FailedObject(), "hall/door");
+  EXPECT_EQ(depth.FailedText(), "open");
+}
+
+TEST(WorkDepth, LoadsAndWalksGiveTheirObjectAndLeaveTheTextToTheMessageAround) {
+  WorkDepth depth;
+  Place hall("hall");
+  Place door("hall/door");
+  try {
+    DepthGuard message(depth, Work::kMessage, "cs_hall", &hall);
+    DepthGuard load(depth, Work::kLoad, "door.txt", &door);
+    DepthGuard walk(depth, Work::kTreeWalk, "draw");
+    throw FatalError("fault");
+  } catch (const FatalError&) {
+  }
+  EXPECT_EQ(depth.FailedObject(), "hall/door");
+  EXPECT_EQ(depth.FailedText(), "cs_hall");
+}
+
+TEST(WorkDepth, AMessageWithoutAPlaceTakesTheObjectNothingElseGave) {
+  WorkDepth depth;
+  Place hall("hall");
+  try {
+    DepthGuard outer(depth, Work::kMessage, "outer", &hall);
+    DepthGuard inner(depth, Work::kScript, "change open");
+    throw FatalError("fault");
+  } catch (const FatalError&) {
+  }
+  EXPECT_EQ(depth.FailedText(), "change open");
+  EXPECT_EQ(depth.FailedObject(), "") << "the innermost text ends the search";
+}
+
+TEST(WorkDepth, AFaultTellsWhereItsScriptLineStands) {
+  WorkDepth depth;
+  const FilePlace line{"Info\\door.txt", 7};
+  try {
+    DepthGuard message(depth, Work::kMessage, "open");
+    DepthGuard script(depth, Work::kScript, "change opne", nullptr, &line);
+    throw FatalError("fault");
+  } catch (const FatalError&) {
+  }
+  EXPECT_EQ(depth.FailedPlace().file, "Info\\door.txt");
+  EXPECT_EQ(depth.FailedPlace().line, 7);
+  depth.ForgetFailure();
+  EXPECT_EQ(depth.FailedPlace().file, "");
+}
+
+TEST(WorkDepth, WorkThatEndsWellWhileAFaultUnwindsIsNotToldAsItsCause) {
+  struct Releasing {
+    WorkDepth& depth;
+    const Place& place;
+    ~Releasing() { DepthGuard guard(depth, Work::kTreeWalk, "release", &place); }
+  };
+  WorkDepth depth;
+  Place hall("hall");
+  Place released("hall/released");
+  try {
+    DepthGuard guard(depth, Work::kMessage, "open", &hall);
+    Releasing releasing{depth, released};
+    throw FatalError("fault");
+  } catch (const FatalError&) {
+  }
+  EXPECT_EQ(depth.FailedObject(), "hall");
+  EXPECT_EQ(depth.FailedText(), "open");
+}
+
+TEST(WorkDepth, TheFaultOfTooManyLevelsIsToldLikeAnyOther) {
+  WorkDepth depth;
+  FaultAtDepth(depth, 201, Work::kMessage, "ping");
+  EXPECT_EQ(depth.FailedText(), "ping");
+}
+
+TEST(WorkDepth, WithoutAFaultNothingIsTold) {
+  WorkDepth depth;
+  Place door("hall/door");
+  { DepthGuard guard(depth, Work::kMessage, "open", &door); }
+  EXPECT_EQ(depth.FailedObject(), "");
+  EXPECT_EQ(depth.FailedText(), "");
+}
+
+TEST(WorkDepth, TheFirstFaultIsKeptUntilItIsForgotten) {
+  WorkDepth depth;
+  auto fail = [&](const char* text) {
+    try {
+      DepthGuard guard(depth, Work::kMessage, text);
+      throw FatalError("fault");
+    } catch (const FatalError&) {
+    }
+  };
+  fail("first");
+  fail("second");
+  EXPECT_EQ(depth.FailedText(), "first");
+  depth.ForgetFailure();
+  EXPECT_EQ(depth.FailedText(), "");
+  fail("third");
+  EXPECT_EQ(depth.FailedText(), "third");
+}
+
+TEST(WorkDepth, TheEndOfTheProcessUnwindsTheCountToo) {
+  WorkDepth depth;
+  try {
+    DepthGuard guard(depth, Work::kMessage, "exitgame");
+    throw ProcessEnds{};
+  } catch (const ProcessEnds&) {
+  }
+  EXPECT_EQ(depth.Depth(), 0);
+}
+
+TEST(WorkDepth, AFaultThatCannotBeDescribedStillPasses) {
+  WorkDepth depth;
+  UnknownPlace place;
+  EXPECT_THROW(
+      {
+        DepthGuard guard(depth, Work::kMessage, "open", &place);
+        throw FatalError("fault");
+      },
+      FatalError);
+  EXPECT_EQ(depth.Depth(), 0);
+}
+
+}  // namespace
+}  // namespace quendle
