@@ -11,14 +11,14 @@
 namespace quendle {
 
 struct StateText {
-  std::string name;
+  std::string name = "";
   std::string sound = "nothing";
-  std::string animation;  // empty: "show" for an object with a picture
+  std::string animation = "";  // empty: "show" for an object with a picture
   std::string script = "nothing";
 };
 
 struct AnimationText {
-  std::string name;
+  std::string name = "";
   int interval = 100;  // milliseconds
   std::string loop = "nonloop";
   std::string frames = "f1 f2";
@@ -27,8 +27,8 @@ struct AnimationText {
 // An object, its files and the names of its parts. A picture has the frames "f1" and "f2", each
 // the whole picture where the object stands, and the animation "show" of the first.
 struct ObjectText {
-  std::string type;
-  std::string name;
+  std::string type = "";
+  std::string name = "";
   std::string directives = "";
   int width = 0;  // of the picture; 0: none
   int height = 0;

@@ -7,6 +7,7 @@
 #include "backends/files/MemoryFileSystem.h"
 #include "backends/headless/HeadlessBackend.h"
 #include "base/ContentFiles.h"
+#include "base/EventSink.h"
 #include "base/Settings.h"
 #include "base/Watch.h"
 #include "media/FakeGraphs.h"
