@@ -8,6 +8,7 @@
 #include "toolbelt/Drive.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/PictureTool.h"
+#include "toolbelt/SmallestContent.h"
 
 namespace quendle {
 namespace {
@@ -59,6 +60,13 @@ void AddDrive(CLI::App& belt, int& exit_code) {
   });
 }
 
+void AddNew(CLI::App& belt) {
+  CLI::App* tool = belt.add_subcommand("new", "Makes a smallest content tree that runs");
+  auto folder = std::make_shared<std::string>();
+  tool->add_option("DIR", *folder, "A folder that is empty or not there yet")->required();
+  tool->callback([folder] { MakeNewContent(*folder); });
+}
+
 }  // namespace
 
 int RunToolBelt(std::vector<std::string> words) {
@@ -67,6 +75,7 @@ int RunToolBelt(std::vector<std::string> words) {
   int exit_code = 0;
   AddDrive(belt, exit_code);
   AddPicture(belt);
+  AddNew(belt);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);
