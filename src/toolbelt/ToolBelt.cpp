@@ -49,7 +49,8 @@ void AddDrive(CLI::App& belt, int& exit_code) {
   drive->add_option("FILE", settings->file, "The commands; without it, standard input")
       ->check(CLI::ExistingFile);
   drive->footer(
-      "Each command is answered by one line of JSON. A line that begins with # is a comment.\n"
+      "Each command is answered by one line of JSON. A line that begins with # or > is a\n"
+      "comment.\n"
       "Exit code 0, or 3 when the game ended fatally. Commands:\n\n" +
       CommandHelp());
   drive->callback([settings, path, &exit_code] {
