@@ -2,12 +2,14 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <iostream>
 #include <memory>
 
 #include "toolbelt/Drive.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/PictureTool.h"
+#include "toolbelt/Render.h"
 #include "toolbelt/SmallestContent.h"
 
 namespace quendle {
@@ -60,6 +62,18 @@ void AddDrive(CLI::App& belt, int& exit_code) {
   });
 }
 
+void AddRender(CLI::App& belt, int& exit_code) {
+  CLI::App* tool = belt.add_subcommand("render", "Writes the picture of a screen as a PNG file");
+  auto words = std::make_shared<std::array<std::string, 3>>();
+  tool->add_option("DIR", (*words)[0], "The content tree")
+      ->required()
+      ->check(CLI::ExistingDirectory);
+  tool->add_option("SCREEN", (*words)[1], "Its name in the screen table")->required();
+  tool->add_option("OUT.png", (*words)[2], "The picture to write")->required();
+  tool->callback(
+      [words, &exit_code] { exit_code = RenderScreen((*words)[0], (*words)[1], (*words)[2]); });
+}
+
 void AddNew(CLI::App& belt) {
   CLI::App* tool = belt.add_subcommand("new", "Makes a smallest content tree that runs");
   auto folder = std::make_shared<std::string>();
@@ -75,6 +89,7 @@ int RunToolBelt(std::vector<std::string> words) {
   int exit_code = 0;
   AddDrive(belt, exit_code);
   AddPicture(belt);
+  AddRender(belt, exit_code);
   AddNew(belt);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {

@@ -1,4 +1,4 @@
-#include "DriveBench.h"
+#include "toolbelt/DriveBench.h"
 
 namespace quendle {
 namespace {

@@ -1,4 +1,4 @@
-#include "DriveBench.h"
+#include "toolbelt/DriveBench.h"
 #include "logic/GameLogicLayer.h"
 
 namespace quendle {
