@@ -6,6 +6,7 @@
 #include <iostream>
 #include <memory>
 
+#include "toolbelt/Bench.h"
 #include "toolbelt/Drive.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/PictureTool.h"
@@ -74,6 +75,16 @@ void AddRender(CLI::App& belt, int& exit_code) {
       [words, &exit_code] { exit_code = RenderScreen((*words)[0], (*words)[1], (*words)[2]); });
 }
 
+void AddBench(CLI::App& belt) {
+  CLI::App* tool = belt.add_subcommand("bench", "Measures one workload and prints lines of JSON");
+  auto workload = std::make_shared<std::string>();
+  auto folder = std::make_shared<std::string>(DefaultBenchFolder());
+  tool->add_option("WORKLOAD", *workload, "W1: whole frames; W3: mouse events; others: nothing")
+      ->required();
+  tool->add_option("--data", *folder, "The folder of the inputs")->capture_default_str();
+  tool->callback([workload, folder] { RunBench(*workload, *folder); });
+}
+
 void AddNew(CLI::App& belt) {
   CLI::App* tool = belt.add_subcommand("new", "Makes a smallest content tree that runs");
   auto folder = std::make_shared<std::string>();
@@ -91,6 +102,7 @@ int RunToolBelt(std::vector<std::string> words) {
   AddPicture(belt);
   AddRender(belt, exit_code);
   AddNew(belt);
+  AddBench(belt);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);
