@@ -1,10 +1,12 @@
 #include "toolbelt/BenchContent.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <sstream>
 #include <stdexcept>
 
+#include "backends/raster/BitmapReader.h"
 #include "backends/raster/BitmapWriter.h"
 #include "toolbelt/SmallestContent.h"
 
@@ -12,6 +14,7 @@ namespace quendle {
 namespace {
 
 constexpr std::uint32_t kSceneKey = 0xFF00FF;  // the key colour of the scene's pictures
+constexpr std::uint32_t kGameKey = 0xC8C8C8;
 constexpr Size kChainSize{60, 60};
 constexpr Size kChainCell{80, 100};
 constexpr int kChainsInARow = 10;
@@ -26,6 +29,15 @@ std::ifstream OpenInput(const std::string& path) {
 std::string ReadInput(const std::string& path) {
   std::ifstream file = OpenInput(path);
   return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// A picture of the scene, with the game's key colour in place of the scene's.
+std::string ReadKeyed(const std::string& path) {
+  BitmapFile picture = ReadBitmapFile(ReadInput(path));
+  if (!picture.problem.empty()) throw std::runtime_error(path + ": " + picture.problem);
+  const std::size_t count = static_cast<std::size_t>(picture.width * picture.height);
+  std::replace(picture.pixels.get(), picture.pixels.get() + count, kSceneKey, kGameKey);
+  return WriteBitmapFile(picture.width, picture.height, picture.pixels.get());
 }
 
 std::string Plain(Size size, std::uint32_t color) {
@@ -149,8 +161,7 @@ void PutSceneContent(MemoryFileSystem& files, const std::string& folder,
     children += ChildLine("sprite" + std::to_string(i), scene[i].to);
   }
   PutScreen(files, ReadInput(folder + "/bg.bmp"), children);
-  files.Put(kBenchSheetFile, ReadInput(folder + "/sheet.bmp"));
-  files.Put("\\Info\\tools\\tool.bmp", Plain({8, 8}, kSceneKey));
+  files.Put(kBenchSheetFile, ReadKeyed(folder + "/sheet.bmp"));
   for (std::size_t i = 0; i < count; ++i) {
     const std::string name = "sprite" + std::to_string(i);
     files.Put(kFolder + name + ".txt", ObjectText("button", name, false));
@@ -162,7 +173,7 @@ void PutSceneContent(MemoryFileSystem& files, const std::string& folder,
                       ""});
   }
   files.Put("\\Info\\handcursor\\handcursor.bmp",
-            ReadInput(folder + "/" + scene.back().picture + ".bmp"));
+            ReadKeyed(folder + "/" + scene.back().picture + ".bmp"));
   files.Put("\\Info\\handcursor\\handcursorframes.txt",
             FrameText("rest", "nothing", scene.back().from, scene.back().size));
 }
