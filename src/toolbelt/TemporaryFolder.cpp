@@ -1,6 +1,6 @@
 #include "toolbelt/TemporaryFolder.h"
 
-#include <stdlib.h>
+#include <cstdlib>
 
 #include <filesystem>
 #include <stdexcept>

@@ -56,7 +56,7 @@ void AddDrive(CLI::App& belt, int& exit_code) {
       "Each command is answered by one line of JSON. A line that begins with # or > is a\n"
       "comment.\n"
       "Exit code 0, or 3 when the game ended fatally. Commands:\n\n" +
-      CommandHelp());
+      CommandHelp() + FaultHelp());
   drive->callback([settings, path, &exit_code] {
     settings->options.window_path = *path == "window";
     exit_code = RunDrive(*settings);

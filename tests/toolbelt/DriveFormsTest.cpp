@@ -83,6 +83,7 @@ TEST(DriveForms, WhatIsNotThereIsRefused) {
   EXPECT_THAT(bench.Refused("press 1"), HasSubstr("start"));
   bench.Do("start");
   EXPECT_THAT(bench.Refused("press 99"), HasSubstr("\"Picture1\" 99"));
+  EXPECT_THAT(bench.Refused("press 99999"), HasSubstr("number of a button"));
   EXPECT_THAT(bench.Refused("over nosuch"), HasSubstr("\"nosuch\" 0"));
   EXPECT_THAT(bench.Refused("set Label1 on"), HasSubstr("\"Label1\""));
   EXPECT_THAT(bench.Refused("set optEasy maybe"), HasSubstr("neither on, off nor a number"));

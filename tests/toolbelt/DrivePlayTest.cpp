@@ -203,10 +203,17 @@ TEST(DrivePlay, AFailureThatWasPlannedHappens) {
   DriveBench bench;
   EXPECT_THAT(bench.Refused("fail"), HasSubstr("a word is missing"));
   EXPECT_THAT(bench.Refused("fail write often"), HasSubstr("neither after, times nor lost"));
-  bench.Do("fail write after 0 times 1");
+  EXPECT_THAT(bench.Refused("fail wriet"), HasSubstr("did you mean \"write\"?"));
+  bench.Do("fail WRITE after 0 times 1");
   const Json answer = bench.Run("play");
   EXPECT_EQ(answer["ok"], false);
   EXPECT_TRUE(answer.contains("fatal")) << answer.dump();
+}
+
+TEST(DrivePlay, AFailureWithoutACountLasts) {
+  DriveBench bench;
+  bench.Do("fail Create");
+  EXPECT_EQ(bench.Do("play")["directDraw"], false);
 }
 
 TEST(DrivePlay, ALostSurfaceIsToldByTheBlit) {

@@ -1,5 +1,5 @@
-#include "toolbelt/DriveBench.h"
 #include "logic/GameLogicLayer.h"
+#include "toolbelt/DriveBench.h"
 
 namespace quendle {
 namespace {
