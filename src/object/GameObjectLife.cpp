@@ -166,6 +166,9 @@ void GameObject::Release(bool forced) {
   CurrentFrames_.clear();
   StateHistory_.clear();
   player_.reset();
+  // With the sounds go their names: what is turned off later stops none.
+  previous_sound_name_ = "nothing";
+  CurrentSoundName_.clear();
   releasing_ = false;
 }
 
