@@ -195,7 +195,7 @@ TEST_F(ScreenChange, APassingStateOfTheDoctorEndsWithTheScreen) {
 
 // --- Long sessions.
 
-TEST_F(ScreenChange, FortyThousandChangesKeepTheGameAlive) {
+TEST_F(ScreenChange, ThousandsOfChangesAndLookupsKeepTheGameAlive) {
   watch.tracer = nullptr;
   const char* names[] = {"cs_floor1hall1", "cs_dogroom", "cs_floor1hall2",
                          "cs_emptyroom1",  "cs_maze",    "cs_credits"};

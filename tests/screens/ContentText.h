@@ -99,8 +99,8 @@ inline void PutObject(MemoryFileSystem& files, const ObjectText& object) {
 
   text.clear();
   for (const auto& [name, lines] : object.scripts) {
-    text += name + "\n<CurrentDirectory>\\script" + name + ".txt\n-\n";
-    files.Put(folder + "script" + name + ".txt", "begin\n" + lines + "end\n");
+    text += name + "\n<CurrentDirectory>\\script-" + name + ".txt\n-\n";
+    files.Put(folder + "script-" + name + ".txt", "begin\n" + lines + "end\n");
   }
   if (!text.empty()) put("scripts.txt", text);
 
