@@ -8,7 +8,7 @@ namespace {
 
 // A picture whose rectangle slides over its edge has new spans each time: enough are kept for any
 // sheet of frames, and the rest may be found anew.
-constexpr std::size_t kMostKept = 1024;
+constexpr std::size_t kMostKept = 256;
 
 }  // namespace
 
