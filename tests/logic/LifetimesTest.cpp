@@ -28,8 +28,9 @@ struct LifetimeBench : testing::Test, LogicBench {
 using Lifetimes = LifetimeBench;
 
 TEST_F(Lifetimes, AScriptMayLeaveTheScreenTwiceAndDestroyItsOwnScreen) {
-  Script("dogdoor", "mtp cs_dogroom\nmtp cs_emptyroom1\nchange better1\nrunstate better1\n"
-                    "mtp playmusic\n");
+  Script("dogdoor",
+         "mtp cs_dogroom\nmtp cs_emptyroom1\nchange better1\nrunstate better1\n"
+         "mtp playmusic\n");
   Start();
   Send("cs_floor1hall1");
   std::weak_ptr<GameObjectInterface> hall = logic->CurrentScreen();

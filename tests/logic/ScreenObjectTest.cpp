@@ -61,6 +61,13 @@ TEST_F(ScreenObjectTest, OnlyTheScreenNamedToolsIsTheBar) {
   EXPECT_FALSE(dynamic_cast<ScreenObject&>(*logic->CurrentScreen()).IsToolBar());
 }
 
+TEST_F(ScreenObjectTest, TheBarIsArrangedWhenItIsTurnedOnAndNotWhileItLoads) {
+  ObjectRef bar = Make("tools");
+  EXPECT_TRUE(Child(bar, "leftarrow")->Visible());
+  bar->TurnOn();
+  EXPECT_FALSE(Child(bar, "leftarrow")->Visible());
+}
+
 TEST_F(ScreenObjectTest, UpToEightChildrenEveryToolHasASlotAndTheArrowsAreHidden) {
   EXPECT_THAT(Places(), ElementsAre("60", "-", "-", "145"));
   FillTo(8);
