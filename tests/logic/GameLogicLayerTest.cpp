@@ -322,6 +322,16 @@ TEST_F(GameLogicLayerTest, TheNextRunRemembersWhereEverythingWas) {
   EXPECT_EQ(Child(next.logic->CurrentScreen(), "dogdoor")->CurrentState(), "better1");
 }
 
+TEST_F(GameLogicLayerTest, ALayerThatWasNeverInitializedSavesNothing) {
+  files.Put("\\userdata.txt", "begin\nend\n");
+  files.Put("\\HelpSys.txt", "True\nTrue\nTrue\nTrue\nTrue\n");
+  logic = std::make_shared<GameLogicLayer>(objects, host);
+  logic->TurnOff();
+  logic->Release();
+  EXPECT_EQ(File("\\userdata.txt"), "begin\nend\n");
+  EXPECT_EQ(File("\\HelpSys.txt"), "True\nTrue\nTrue\nTrue\nTrue\n");
+}
+
 TEST_F(GameLogicLayerTest, ReleaseLetsGoOfEverythingAndMayRunAgain) {
   Start();
   Send("cs_floor1hall1");

@@ -44,7 +44,7 @@ TEST_F(FaultsOfARun, AFaultNamesFileLineObjectAndMessageInOneBoxAndTheLog) {
   EXPECT_THAT(File("\\general.txt"), HasSubstr("Fatal: " + fault.box_text));
 }
 
-TEST_F(FaultsOfARun, AFaultInAScriptNamesTheObjectAndTheScriptsLine) {
+TEST_F(FaultsOfARun, AMessageThatIsRefusedLeadsBackToTheScriptLineThatSentIt) {
   PutObject(files, ClickButton("start", "change better1\nmtp cs_nosuchscreen\n"));
   Play();
   EXPECT_EQ(Click(120, 120), Status::kFailed);
@@ -52,6 +52,9 @@ TEST_F(FaultsOfARun, AFaultInAScriptNamesTheObjectAndTheScriptsLine) {
   EXPECT_THAT(fault.text, HasSubstr("nosuchscreen"));
   EXPECT_EQ(fault.message, "cs_nosuchscreen");
   EXPECT_THAT(fault.box_text, HasSubstr("In work: cs_nosuchscreen"));
+  EXPECT_EQ(fault.object, "introscreen");  // the last object that it passed
+  EXPECT_EQ(fault.place.file, "Info\\start\\script-click.txt");
+  EXPECT_EQ(fault.place.line, 4);
 }
 
 TEST_F(FaultsOfARun, NothingIsSavedAndTheRunStaysMarkedAsGoingOn) {
