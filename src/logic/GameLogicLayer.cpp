@@ -98,6 +98,8 @@ ObjectRef GameLogicLayer::RequireScreen(const std::string& name) {
 void GameLogicLayer::TurnOff() {
   KillDrawTimer();
   host_.ShowPointer(true);
+  // A start that was broken off has nothing to save, and must not overwrite what is there.
+  if (m_ptrScreenKeeper == nullptr) return;
   if (!m_bGameReset) m_ptrScreenKeeper->SaveGame(kSavedGame);
   WriteHelpMemory();
   const ContentFiles& files = world_.media.content;
