@@ -140,6 +140,17 @@ void Command::ParseIf(const std::vector<ScriptLine>& lines, std::size_t& positio
     children_.push_back(std::move(child));
   }
   stack = SF_remove(stack, "if");
+  ListBranches();
+}
+
+void Command::ListBranches() {
+  for (const Command& child : children_) {
+    Branch branch;
+    // A condition that can't be evaluated must be asked, so that it can say so.
+    branch.decided_by_edge = child.type_ != NodeType::kBoolElse && child.condition_.names_action;
+    if (branch.decided_by_edge) branch.edge = child.condition_.pattern->GetEdge();
+    branches_.push_back(branch);
+  }
 }
 
 void Command::CompileCondition() {
@@ -169,9 +180,7 @@ Answer Command::Execute(const ScriptVariables& variables, ScriptTarget& target) 
       ExecuteChildren(variables, target);
       return Answer::kEmpty;
     case NodeType::kIf:
-      for (const Command& branch : children_) {
-        if (branch.Execute(variables, target) == Answer::kTrue) break;
-      }
+      ExecuteIf(variables, target);
       return Answer::kTrue;
     case NodeType::kBoolIf:
     case NodeType::kBoolElseIf:
@@ -192,8 +201,24 @@ Answer Command::Execute(const ScriptVariables& variables, ScriptTarget& target) 
   return Answer::kEmpty;
 }
 
+void Command::ExecuteIf(const ScriptVariables& variables, ScriptTarget& target) const {
+  const ActionText& action = variables.Action();
+  for (std::size_t i = 0; i < branches_.size(); ++i) {
+    const Branch& branch = branches_[i];
+    if (branch.decided_by_edge && !branch.edge.MayMatch(action)) continue;
+    if (children_[i].Execute(variables, target) == Answer::kTrue) return;
+  }
+}
+
 void Command::ExecuteChildren(const ScriptVariables& variables, ScriptTarget& target) const {
-  for (const Command& child : children_) child.Execute(variables, target);
+  for (const Command& child : children_) {
+    if (child.type_ == NodeType::kAction) {
+      bool unused = false;
+      target.Interpret(*child.statement_, false, unused);
+    } else {
+      child.Execute(variables, target);
+    }
+  }
 }
 
 void Command::PrintCommand(std::vector<std::string>& lines) const {

@@ -51,7 +51,8 @@ bool ReadCommand(std::istream& in, std::string& command) {
   std::string line;
   while (std::getline(in, line)) {
     const std::string_view text = WithoutLineEnd(line);
-    if (text.empty() || text.front() == '#') continue;
+    // What a scenario expects of an answer stands behind ">": that is for its runner.
+    if (text.empty() || text.front() == '#' || text.front() == '>') continue;
     command = text;
     return true;
   }

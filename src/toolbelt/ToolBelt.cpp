@@ -8,6 +8,7 @@
 #include "toolbelt/Drive.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/PictureTool.h"
+#include "toolbelt/SmallestContent.h"
 
 namespace quendle {
 namespace {
@@ -49,13 +50,21 @@ void AddDrive(CLI::App& belt, int& exit_code) {
   drive->add_option("FILE", settings->file, "The commands; without it, standard input")
       ->check(CLI::ExistingFile);
   drive->footer(
-      "Each command is answered by one line of JSON. A line that begins with # is a comment.\n"
+      "Each command is answered by one line of JSON. A line that begins with # or > is a\n"
+      "comment.\n"
       "Exit code 0, or 3 when the game ended fatally. Commands:\n\n" +
       CommandHelp());
   drive->callback([settings, path, &exit_code] {
     settings->options.window_path = *path == "window";
     exit_code = RunDrive(*settings);
   });
+}
+
+void AddNew(CLI::App& belt) {
+  CLI::App* tool = belt.add_subcommand("new", "Makes a smallest content tree that runs");
+  auto folder = std::make_shared<std::string>();
+  tool->add_option("DIR", *folder, "A folder that is empty or not there yet")->required();
+  tool->callback([folder] { MakeNewContent(*folder); });
 }
 
 }  // namespace
@@ -66,6 +75,7 @@ int RunToolBelt(std::vector<std::string> words) {
   int exit_code = 0;
   AddDrive(belt, exit_code);
   AddPicture(belt);
+  AddNew(belt);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);

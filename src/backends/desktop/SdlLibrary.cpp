@@ -23,6 +23,9 @@ SdlLibrary::SdlLibrary() {
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
   // The first press on a window that had no focus is meant for what lies under the pointer.
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+  // Forms and the software path put their pixels on the screen themselves: going through the
+  // graphics device would load its whole driver for nothing.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   // A touch arrives as mouse events once, not twice.
   SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, "1");
   if (SDL_Init(SDL_INIT_VIDEO) != 0) {
