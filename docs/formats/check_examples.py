@@ -170,6 +170,14 @@ CASES = [
      'two saved objects named "duck" in "pondroom"'),
     ("helpsys.md", "\\HelpSys.txt", (LINE, 1, "On"), '"On" is neither "True" nor "False"'),
     ("helpsys.md", "\\HelpSys.txt", (CUT, 4), 'the file ends where "True" or "False" should stand'),
+    ("../messages.md", POND + "duck.txt", (ADD,), '"toobj" needs word 2 and has 1', ENTER + ["send toobj"]),
+    ("../messages.md", POND + "duck.txt", (ADD,),
+     '"subgamedone" finds no previous screen to go back to', ["play", "send subgamedone"]),
+    ("../messages.md", POND + "duck.txt", (ADD,), '"screenprevious" finds no previous screen',
+     ENTER + ["send screenprevious", "send screenprevious"]),
+    ("README.md", POND + "pondroomchildren.txt",
+     (LINE, 1, "<CurrentDirectory>\\pondroom.txt"),
+     "more than 200 levels deep: the content goes round in circles at …"),
     ("settings.md", "\\GameMode.txt", (CUT, 0),
      "the file ends where the game mode should stand", ["start"]),
     ("settings.md", "\\GameRunning.txt", (CUT, 0),
@@ -278,8 +286,8 @@ def play_case(quendle, content, files, case):
     fatal = answers[-1].get("fatal", "no fault") if answers else "no answer"
     pattern = ".*".join(re.escape(part) for part in message.split("…"))
     told = expect(f"{page} {path} {change}", re.fullmatch(pattern, fatal), f"-> {fatal}")
-    quoted = expect(f"{page} quotes", f"`{message}`" in (PAGES / page).read_text()
-                    or message in (PAGES / page).read_text(), message)
+    page_text = (PAGES / page).read_text()
+    quoted = expect(f"{page} quotes", all(part in page_text for part in message.split("…")), message)
     return told and quoted
 
 
