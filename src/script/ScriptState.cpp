@@ -7,7 +7,7 @@
 namespace quendle {
 
 Answer ScriptState::Execute(const ScriptVariables& variables, ScriptTarget& target) const {
-  return root_.Execute(variables, target);
+  return program_.Run(variables, target);
 }
 
 void ScriptState::Parse(const std::vector<ScriptLine>& lines, WorkDepth& depth) {
@@ -15,6 +15,7 @@ void ScriptState::Parse(const std::vector<ScriptLine>& lines, WorkDepth& depth) 
   std::string stack;
   root_ = Command();
   root_.Parse(lines, position, stack, depth);
+  program_ = Program(root_);
 }
 
 bool ScriptState::VerifyParse(const std::vector<std::string>& lines) const {

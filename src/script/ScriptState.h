@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "script/Command.h"
+#include "script/Program.h"
 
 namespace quendle {
 
@@ -11,6 +12,10 @@ namespace quendle {
 // that names it when it is a global script.
 class ScriptState {
  public:
+  ScriptState() = default;
+  ScriptState(const ScriptState&) = delete;
+  ScriptState& operator=(const ScriptState&) = delete;
+
   const std::string& Name() const { return name_; }
   void SetName(std::string name) { name_ = std::move(name); }
 
@@ -29,8 +34,9 @@ class ScriptState {
   const Command& Root() const { return root_; }
 
  private:
-  std::string name_;
+  Program program_;  // of root_
   Command root_;
+  std::string name_;
 };
 
 }  // namespace quendle
