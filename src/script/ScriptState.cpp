@@ -13,9 +13,9 @@ Answer ScriptState::Execute(const ScriptVariables& variables, ScriptTarget& targ
 void ScriptState::Parse(const std::vector<ScriptLine>& lines, WorkDepth& depth) {
   std::size_t position = 1;
   std::string stack;
-  root_ = Command();
-  root_.Parse(lines, position, stack, depth);
-  program_ = Program(root_);
+  root_ = std::make_unique<Command>();
+  root_->Parse(lines, position, stack, depth);
+  program_ = Program(*root_);
 }
 
 bool ScriptState::VerifyParse(const std::vector<std::string>& lines) const {

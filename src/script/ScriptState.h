@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,10 +13,6 @@ namespace quendle {
 // that names it when it is a global script.
 class ScriptState {
  public:
-  ScriptState() = default;
-  ScriptState(const ScriptState&) = delete;
-  ScriptState& operator=(const ScriptState&) = delete;
-
   const std::string& Name() const { return name_; }
   void SetName(std::string name) { name_ = std::move(name); }
 
@@ -29,13 +26,13 @@ class ScriptState {
   bool VerifyParse(const std::vector<std::string>& lines) const;
 
   // Appends the script as source lines.
-  void PrintScript(std::vector<std::string>& lines) const { root_.PrintCommand(lines); }
+  void PrintScript(std::vector<std::string>& lines) const { root_->PrintCommand(lines); }
 
-  const Command& Root() const { return root_; }
+  const Command& Root() const { return *root_; }
 
  private:
-  Program program_;  // of root_
-  Command root_;
+  Program program_;                                              // of root_
+  std::unique_ptr<Command> root_ = std::make_unique<Command>();  // stays where it is
   std::string name_;
 };
 
