@@ -37,7 +37,6 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     -Wlogical-op          # `a && 4` where `a & 4` was meant
     -fpch-preprocess      # lets the cache see the precompiled header of the tests
     -Wno-restrict         # GCC 12 reports std::string concatenation falsely at -O2
-    -Wno-array-bounds     # the same, in the optimiser's view of short strings
   )
 endif()
 

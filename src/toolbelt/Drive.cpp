@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "backends/files/DiskFileSystem.h"
+#include "base/FatalError.h"
 #include "base/Text.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/Utf8.h"
@@ -51,7 +52,8 @@ bool ReadCommand(std::istream& in, std::string& command) {
   std::string line;
   while (std::getline(in, line)) {
     const std::string_view text = WithoutLineEnd(line);
-    if (text.empty() || text.front() == '#') continue;
+    // What a scenario expects of an answer stands behind ">": that is for its runner.
+    if (text.empty() || text.front() == '#' || text.front() == '>') continue;
     command = text;
     return true;
   }
@@ -68,6 +70,9 @@ Json RunCommandLine(DriveSession& session, const std::string& line) {
     fields = CarryOut(session, *text);
   } catch (const CommandRefused& refused) {
     return Refusal(refused.what());
+  } catch (const FatalError& error) {
+    // Not of the game, whose faults end in its own frame: an argument that is out of range.
+    return Refusal(error.what());
   }
   if (session.Game().GetStatus() == Application::Status::kFailed) return FatalAnswer(session);
   Json answer = {{"ok", true}};

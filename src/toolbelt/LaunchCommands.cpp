@@ -130,12 +130,12 @@ Json PressPoint(DriveSession& session, Arguments& arguments) {
   });
 }
 
-Json Answer(DriveSession& session, Arguments& arguments) {
+Json QueueAnswer(DriveSession& session, Arguments& arguments) {
   session.Platform().boxes.QueueAnswer(arguments.Rest());
   return Json::object();
 }
 
-Json Boxes(DriveSession& session, Arguments& arguments) {
+Json ShowBoxes(DriveSession& session, Arguments& arguments) {
   arguments.End();
   return {{"boxes", DescribeBoxes(session.Platform().boxes.TakeShown())}};
 }
@@ -164,8 +164,8 @@ const CommandTable& LaunchCommands() {
       {"set CONTROL on|off|NUMBER", "set an option, a check or a scroll bar", Set},
       {"point X Y", "press on Image1, in pixels of the picture", PressPoint},
       {"answer TEXT", "queue the answer of the next box: ok, yes, no, a text, a path, cancel",
-       Answer},
-      {"boxes", "the boxes shown since last asked", Boxes},
+       QueueAnswer},
+      {"boxes", "the boxes shown since last asked", ShowBoxes},
       {"opened", "the addresses handed to the shell since last asked", Opened},
       {"quit", "end here, without an orderly end of the game", Quit},
   };

@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
+#include "object/GameObject.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/ObjectPath.h"
 #include "toolbelt/Views.h"
