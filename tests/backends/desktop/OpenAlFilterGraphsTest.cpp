@@ -247,6 +247,19 @@ TEST_F(OpenAlFilterGraphsTest, WithoutADeviceDurationsRunAndTheReasonIsToldOnce)
   EXPECT_EQ(silent.TakeProblems(), Lines{"There is no sound device: all sounds are silent"});
 }
 
+TEST_F(OpenAlFilterGraphsTest, WhateverDeviceTheSystemHasASoundComesToItsEnd) {
+  DesktopClock clock;
+  OpenAlFilterGraphs system(files_, clock);
+  const auto graph = system.Create();
+  ASSERT_TRUE(graph->RenderFile("\\tone.wma"));
+  EXPECT_EQ(system.TakeProblems().size(), system.Device() == nullptr ? 1U : 0U);
+  graph->SetVolume(-10000);
+  graph->SetPosition(0.8);
+  graph->Run();
+  EXPECT_EQ(graph->WaitForCompletion(50), 0);
+  EXPECT_NE(graph->WaitForCompletion(10000), 0);
+}
+
 TEST_F(OpenAlFilterGraphsTest, WaitingEndsWithTheSoundOrTheTime) {
   DesktopClock clock;
   OpenAlFilterGraphs silent(files_, clock, nullptr);
