@@ -25,7 +25,7 @@ enum class StatementVerb;
 // Everything that is seen or clicked: states, animations, regions, sounds and scripts loaded from
 // text files, and a place in the tree of objects. It exists only inside one of the specialised
 // classes, which owns it; what must reach that class goes through SelfReference.
-class GameObject : public GameObjectInterface, public Inspectable, public WorkPlace {
+class GameObject final : public GameObjectInterface, public Inspectable, public WorkPlace {
  public:
   explicit GameObject(ObjectWorld& world);
   ~GameObject() override;
@@ -33,7 +33,7 @@ class GameObject : public GameObjectInterface, public Inspectable, public WorkPl
   GameObject& operator=(const GameObject&) = delete;
 
   DShowObj* GetDShowObj() override;
-  ObjectList& Children() override;
+  ObjectList& Children() override { return Children_; }
   void SetChildren(ObjectList children) override;
   std::shared_ptr<Surface> DirectDrawingSurface() override;
   std::string CurrentState() override;
@@ -54,17 +54,17 @@ class GameObject : public GameObjectInterface, public Inspectable, public WorkPl
   void SetPictureName(std::string name) override;
   std::string PictureName() override;
   void SetObjectName(std::string name) override;
-  const std::string& ObjectName() const override;
+  const std::string& ObjectName() const override { return ObjectName_; }
   void SetObjectType(std::string type) override;
-  const std::string& ObjectType() const override;
+  const std::string& ObjectType() const override { return ObjectType_; }
   void SetVisible(bool visible) override;
-  bool Visible() const override;
+  bool Visible() const override { return Visible_; }
   void SetObjectOn(bool on) override;
   bool ObjectOn() const override;
   void Setxpos(std::int16_t x) override;
-  std::int16_t xpos() const override;
+  std::int16_t xpos() const override { return xpos_; }
   void Setypos(std::int16_t y) override;
-  std::int16_t ypos() const override;
+  std::int16_t ypos() const override { return ypos_; }
   void Setheight(std::int16_t height) override;
   std::int16_t height() const override;
   std::int16_t width() const override;
@@ -213,12 +213,27 @@ class GameObject : public GameObjectInterface, public Inspectable, public WorkPl
 
   ObjectWorld& world_;
 
-  // Constant after the load, until Release.
+  // Looked at on every event, and so side by side in memory.
   GameObjectInterface* SelfReference_ = nullptr;  // owns this object, or null before the load
-  std::weak_ptr<GameObjectInterface> self_;       // the same, for those who keep it
+  std::shared_ptr<ScriptState> current_script_;   // of the current state; null for "nothing"
+  std::unique_ptr<ObjectPicture> picture_;        // constant after the load, until Release
+  std::vector<FrameRef> CurrentFrames_;
+  std::int16_t xpos_ = 0;
+  std::int16_t ypos_ = 0;
+  std::int16_t height_ = -1;
+  std::int16_t width_ = 0;
+  bool Visible_ = true;
+  bool ObjectOn_ = false;
+  bool releasing_ = false;
+  ObjectList Children_{"child"};
+  std::weak_ptr<MessageTarget> Parent_;
+  std::string ObjectName_;
+  std::string CurrentRegion_;
+
+  // Constant after the load, until Release.
+  std::weak_ptr<GameObjectInterface> self_;  // SelfReference_, for those who keep it
   std::string ObjDirectory_;
   std::string depth_;
-  std::unique_ptr<ObjectPicture> picture_;
   std::string PictureName_;
   ContextHandle DrawingSurface_ = 0;
   KeyedList<std::shared_ptr<AnimationState>> Animations_{"animation"};
@@ -230,30 +245,17 @@ class GameObject : public GameObjectInterface, public Inspectable, public WorkPl
   std::unique_ptr<DShowObj> player_;
 
   // Changes in play.
-  std::string ObjectName_;
   std::string ObjectType_;
-  std::weak_ptr<MessageTarget> Parent_;
-  ObjectList Children_{"child"};
   std::shared_ptr<ObjState> m_ptrCurrObjState;
-  std::shared_ptr<ScriptState> current_script_;  // of the current state; null for "nothing"
   std::vector<std::string> StateHistory_;
-  std::int16_t xpos_ = 0;
-  std::int16_t ypos_ = 0;
-  std::int16_t height_ = -1;
-  std::int16_t width_ = 0;
-  bool Visible_ = true;
-  bool releasing_ = false;
 
   // Changes while on.
-  bool ObjectOn_ = false;
   std::int32_t TimerID_ = 0;
   std::string CurrentAnimationName_;
-  std::vector<FrameRef> CurrentFrames_;
   std::int32_t CurrentTextureXCoord_ = -1;
   std::int32_t CurrentTextureYCoord_ = 0;
   std::string previous_sound_name_ = "nothing";
   std::string CurrentSoundName_;
-  std::string CurrentRegion_;
 };
 
 }  // namespace quendle

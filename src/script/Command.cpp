@@ -5,7 +5,7 @@
 #include "base/SF_Strings.h"
 #include "base/Text.h"
 #include "base/WorkDepth.h"
-#include "script/ScriptTarget.h"
+#include "script/Program.h"
 #include "script/ScriptVariables.h"
 
 namespace quendle {
@@ -164,36 +164,7 @@ bool Command::Holds(const ScriptVariables& variables) const {
 }
 
 Answer Command::Execute(const ScriptVariables& variables, ScriptTarget& target) const {
-  switch (type_) {
-    case NodeType::kBegin:
-      ExecuteChildren(variables, target);
-      return Answer::kEmpty;
-    case NodeType::kIf:
-      for (const Command& branch : children_) {
-        if (branch.Execute(variables, target) == Answer::kTrue) break;
-      }
-      return Answer::kTrue;
-    case NodeType::kBoolIf:
-    case NodeType::kBoolElseIf:
-      if (!Holds(variables)) return Answer::kFalse;
-      ExecuteChildren(variables, target);
-      return Answer::kTrue;
-    case NodeType::kBoolElse:
-      ExecuteChildren(variables, target);
-      return Answer::kTrue;
-    case NodeType::kAction: {
-      bool unused = false;
-      target.Interpret(*statement_, false, unused);
-      return Answer::kEmpty;
-    }
-    case NodeType::kNone:
-      return Answer::kEmpty;
-  }
-  return Answer::kEmpty;
-}
-
-void Command::ExecuteChildren(const ScriptVariables& variables, ScriptTarget& target) const {
-  for (const Command& child : children_) child.Execute(variables, target);
+  return Program(*this).Run(variables, target);
 }
 
 void Command::PrintCommand(std::vector<std::string>& lines) const {

@@ -47,6 +47,15 @@ class Command {
   // fatal.
   Answer Execute(const ScriptVariables& variables, ScriptTarget& target) const;
 
+  // Of a condition: whether it holds. The same faults are fatal.
+  bool Holds(const ScriptVariables& variables) const;
+  // Of a condition on "action": its pattern. Null for any other node.
+  const Pattern* DecidingPattern() const {
+    return condition_.names_action ? &*condition_.pattern : nullptr;
+  }
+  // Of an action: what it does.
+  const Statement* ActionStatement() const { return &*statement_; }
+
   // Appends the node as source lines.
   void PrintCommand(std::vector<std::string>& lines) const;
 
@@ -70,8 +79,6 @@ class Command {
   void ParseIf(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
                WorkDepth& depth);
   void CompileCondition();
-  bool Holds(const ScriptVariables& variables) const;
-  void ExecuteChildren(const ScriptVariables& variables, ScriptTarget& target) const;
 
   NodeType type_ = NodeType::kNone;
   std::string text_;

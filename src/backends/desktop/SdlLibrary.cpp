@@ -2,9 +2,7 @@
 
 #include <SDL.h>
 
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 
 namespace quendle {
 namespace {
@@ -16,18 +14,6 @@ bool IsSeen(std::string_view driver) {
   return !unseen || SDL_getenv("SDL_VIDEODRIVER") != nullptr;
 }
 
-bool HasGraphicsCard() {
-  std::error_code unknown;
-  return std::filesystem::exists("/dev/dri", unknown);
-}
-
-// Without a graphics card OpenGL is only played by the processor: slower than the library's own
-// drawing, and some 50 MB larger. Whoever names a driver in the environment gets that one.
-void PreferPlainDrawing() {
-  SDL_SetHint(SDL_HINT_RENDER_DRIVER, "software");
-  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
-}
-
 }  // namespace
 
 SdlLibrary::SdlLibrary() {
@@ -37,9 +23,11 @@ SdlLibrary::SdlLibrary() {
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
   // The first press on a window that had no focus is meant for what lies under the pointer.
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+  // Forms and the software path put their pixels on the screen themselves: going through the
+  // graphics device would load its whole driver for nothing.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   // A touch arrives as mouse events once, not twice.
   SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, "1");
-  if (!HasGraphicsCard()) PreferPlainDrawing();
   if (SDL_Init(SDL_INIT_VIDEO) != 0) {
     problem_ = SDL_GetError();
   } else if (!IsSeen(SDL_GetCurrentVideoDriver())) {
