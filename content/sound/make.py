@@ -21,7 +21,7 @@ VOICE = -20.0  # loudness of every sentence, in dB of full scale
 EFFECT = -21.0
 MUSIC = VOICE - 9.0
 CEILING = -4.5  # the encoder may overshoot by a dB
-BEFORE, AFTER = 0.05, 0.6  # the bubble stands as long as the sound: time to look at it
+BEFORE, AFTER = 0.05, 0.35  # the bubble stands as long as the sound: a moment more to look at it
 
 
 def captions(path):
