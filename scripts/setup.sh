@@ -3,7 +3,7 @@
 
 packages=(
   g++ cmake ninja-build ccache pkg-config
-  libsdl2-dev libsdl2-ttf-dev libfontconfig-dev fonts-liberation
+  libsdl2-dev libsdl2-ttf-dev fonts-liberation
   libcli11-dev nlohmann-json3-dev libpng-dev
   librsvg2-bin espeak-ng ffmpeg python3
   libgtest-dev libgmock-dev clang-format clang-tidy

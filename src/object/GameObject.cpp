@@ -20,7 +20,6 @@ GameObject::~GameObject() {
 }
 
 DShowObj* GameObject::GetDShowObj() { return player_.get(); }
-ObjectList& GameObject::Children() { return Children_; }
 void GameObject::SetChildren(ObjectList children) { Children_ = std::move(children); }
 
 std::shared_ptr<Surface> GameObject::DirectDrawingSurface() {
@@ -52,17 +51,12 @@ void GameObject::SetpictureHandle(ContextHandle) {}
 void GameObject::SetPictureName(std::string name) { PictureName_ = std::move(name); }
 std::string GameObject::PictureName() { return PictureName_; }
 void GameObject::SetObjectName(std::string name) { ObjectName_ = std::move(name); }
-const std::string& GameObject::ObjectName() const { return ObjectName_; }
 void GameObject::SetObjectType(std::string type) { ObjectType_ = std::move(type); }
-const std::string& GameObject::ObjectType() const { return ObjectType_; }
 void GameObject::SetVisible(bool visible) { Visible_ = visible; }
-bool GameObject::Visible() const { return Visible_; }
 void GameObject::SetObjectOn(bool on) { ObjectOn_ = on; }
 bool GameObject::ObjectOn() const { return ObjectOn_; }
 void GameObject::Setxpos(std::int16_t x) { xpos_ = x; }
-std::int16_t GameObject::xpos() const { return xpos_; }
 void GameObject::Setypos(std::int16_t y) { ypos_ = y; }
-std::int16_t GameObject::ypos() const { return ypos_; }
 void GameObject::Setheight(std::int16_t height) { height_ = height; }
 std::int16_t GameObject::height() const { return height_; }
 std::int16_t GameObject::width() const { return width_; }

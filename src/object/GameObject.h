@@ -25,7 +25,7 @@ enum class StatementVerb;
 // Everything that is seen or clicked: states, animations, regions, sounds and scripts loaded from
 // text files, and a place in the tree of objects. It exists only inside one of the specialised
 // classes, which owns it; what must reach that class goes through SelfReference.
-class GameObject : public GameObjectInterface, public Inspectable, public WorkPlace {
+class GameObject final : public GameObjectInterface, public Inspectable, public WorkPlace {
  public:
   explicit GameObject(ObjectWorld& world);
   ~GameObject() override;
@@ -33,7 +33,7 @@ class GameObject : public GameObjectInterface, public Inspectable, public WorkPl
   GameObject& operator=(const GameObject&) = delete;
 
   DShowObj* GetDShowObj() override;
-  ObjectList& Children() override;
+  ObjectList& Children() override { return Children_; }
   void SetChildren(ObjectList children) override;
   std::shared_ptr<Surface> DirectDrawingSurface() override;
   std::string CurrentState() override;
@@ -54,17 +54,17 @@ class GameObject : public GameObjectInterface, public Inspectable, public WorkPl
   void SetPictureName(std::string name) override;
   std::string PictureName() override;
   void SetObjectName(std::string name) override;
-  const std::string& ObjectName() const override;
+  const std::string& ObjectName() const override { return ObjectName_; }
   void SetObjectType(std::string type) override;
-  const std::string& ObjectType() const override;
+  const std::string& ObjectType() const override { return ObjectType_; }
   void SetVisible(bool visible) override;
-  bool Visible() const override;
+  bool Visible() const override { return Visible_; }
   void SetObjectOn(bool on) override;
   bool ObjectOn() const override;
   void Setxpos(std::int16_t x) override;
-  std::int16_t xpos() const override;
+  std::int16_t xpos() const override { return xpos_; }
   void Setypos(std::int16_t y) override;
-  std::int16_t ypos() const override;
+  std::int16_t ypos() const override { return ypos_; }
   void Setheight(std::int16_t height) override;
   std::int16_t height() const override;
   std::int16_t width() const override;

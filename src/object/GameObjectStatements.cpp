@@ -22,13 +22,18 @@ void GameObject::Interpret(const Statement& statement, bool verifying, bool& res
   DepthGuard guard(world_.watch.depth, Work::kScript, statement.Text(), this, &statement.Origin());
   world_.watch.Trace(TraceKind::kStatement, ObjectName_, "", statement.Text(), verifying);
   const StatementVerb verb = statement.Verb();
+  // Most statements are messages without tokens: their words need no copy.
+  if (verb == StatementVerb::kMtp && !statement.MayHoldToken()) {
+    if (SelfReference_ != nullptr) {
+      SelfReference_->NotifyParent(statement.Argument(), verifying, result);
+    }
+    return;
+  }
   if (verb == StatementVerb::kOther) {
     if (verifying) result = false;
     return;
   }
-  // Without tokens the words need no copy.
-  const std::string substituted = statement.MayHoldToken() ? SubstituteTokens(statement) : "";
-  const std::string& argument = statement.MayHoldToken() ? substituted : statement.Argument();
+  const std::string argument = SubstituteTokens(statement);
   if (verb == StatementVerb::kMtp) {
     if (SelfReference_ != nullptr) SelfReference_->NotifyParent(argument, verifying, result);
     return;
@@ -61,6 +66,7 @@ bool GameObject::VerifyStatement(StatementVerb verb, const std::string& argument
 
 std::string GameObject::SubstituteTokens(const Statement& statement) {
   std::string text = statement.Argument();
+  if (!statement.MayHoldToken()) return text;
   if (!ReplaceToken(text, "<rootobjectname>", StripToolWords(ObjectName_))) {
     ReplaceToken(text, "<objectname>", ObjectName_);
   }

@@ -16,7 +16,6 @@ struct PlacedFrame;
 struct ScriptWorld;
 struct Watch;
 
-
 // A tool that sees each frame that is drawn.
 class BlitWatcher {
  public:

@@ -7,6 +7,10 @@
 
 namespace quendle {
 
+// Eight bytes at the front or at the back of a text as one word; missing bytes are 0.
+std::uint64_t FirstEightBytes(std::string_view text);
+std::uint64_t LastEightBytes(std::string_view text);
+
 // The text that scripts test, folded once so that all patterns of an event compare it quickly.
 class ActionText {
  public:

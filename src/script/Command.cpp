@@ -14,9 +14,10 @@ namespace {
 // The line at `position`; past the last line is fatal.
 const ScriptLine& LineAt(const std::vector<ScriptLine>& lines, std::size_t position) {
   if (position > lines.size()) {
-    throw FatalError("the script ends inside a block that isn't closed (a block needs one "
-                     "statement and a line \"end\" or \"endif\")",
-                     lines.empty() ? FilePlace{} : lines.back().place);
+    throw FatalError(
+        "the script ends inside a block that isn't closed (a block needs one "
+        "statement and a line \"end\" or \"endif\")",
+        lines.empty() ? FilePlace{} : lines.back().place);
   }
   return lines[position - 1];
 }
@@ -56,19 +57,26 @@ std::string WithoutBlockWord(const std::string& line) {
 
 std::string_view NodeTypeName(NodeType type) {
   switch (type) {
-    case NodeType::kNone: return "";
-    case NodeType::kBegin: return "begin";
-    case NodeType::kIf: return "if";
-    case NodeType::kBoolIf: return "boolif1";
-    case NodeType::kBoolElseIf: return "boolelseif1";
-    case NodeType::kBoolElse: return "boolelse1";
-    case NodeType::kAction: return "action";
+    case NodeType::kNone:
+      return "";
+    case NodeType::kBegin:
+      return "begin";
+    case NodeType::kIf:
+      return "if";
+    case NodeType::kBoolIf:
+      return "boolif1";
+    case NodeType::kBoolElseIf:
+      return "boolelseif1";
+    case NodeType::kBoolElse:
+      return "boolelse1";
+    case NodeType::kAction:
+      return "action";
   }
   return "";
 }
 
-void Command::Parse(const std::vector<ScriptLine>& lines, std::size_t& position,
-                    std::string& stack, WorkDepth& depth) {
+void Command::Parse(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
+                    WorkDepth& depth) {
   const ScriptLine& line = LineAt(lines, position);
   DepthGuard guard(depth, Work::kLoad, line.text);
   place_ = line.place;
@@ -132,6 +140,17 @@ void Command::ParseIf(const std::vector<ScriptLine>& lines, std::size_t& positio
     children_.push_back(std::move(child));
   }
   stack = SF_remove(stack, "if");
+  ListBranches();
+}
+
+void Command::ListBranches() {
+  for (const Command& child : children_) {
+    Branch branch;
+    // A condition that can't be evaluated must be asked, so that it can say so.
+    branch.decided_by_edge = child.type_ != NodeType::kBoolElse && child.condition_.names_action;
+    if (branch.decided_by_edge) branch.edge = child.condition_.pattern->GetEdge();
+    branches_.push_back(branch);
+  }
 }
 
 void Command::CompileCondition() {
@@ -157,41 +176,71 @@ bool Command::Holds(const ScriptVariables& variables) const {
 
 Answer Command::Execute(const ScriptVariables& variables, ScriptTarget& target) const {
   switch (type_) {
-    case NodeType::kBegin: ExecuteChildren(variables, target); return Answer::kEmpty;
+    case NodeType::kBegin:
+      ExecuteChildren(variables, target);
+      return Answer::kEmpty;
     case NodeType::kIf:
-      for (const Command& branch : children_) {
-        if (branch.Execute(variables, target) == Answer::kTrue) break;
-      }
+      ExecuteIf(variables, target);
       return Answer::kTrue;
     case NodeType::kBoolIf:
     case NodeType::kBoolElseIf:
       if (!Holds(variables)) return Answer::kFalse;
       ExecuteChildren(variables, target);
       return Answer::kTrue;
-    case NodeType::kBoolElse: ExecuteChildren(variables, target); return Answer::kTrue;
+    case NodeType::kBoolElse:
+      ExecuteChildren(variables, target);
+      return Answer::kTrue;
     case NodeType::kAction: {
       bool unused = false;
       target.Interpret(*statement_, false, unused);
       return Answer::kEmpty;
     }
-    case NodeType::kNone: return Answer::kEmpty;
+    case NodeType::kNone:
+      return Answer::kEmpty;
   }
   return Answer::kEmpty;
 }
 
+void Command::ExecuteIf(const ScriptVariables& variables, ScriptTarget& target) const {
+  const ActionText& action = variables.Action();
+  for (std::size_t i = 0; i < branches_.size(); ++i) {
+    const Branch& branch = branches_[i];
+    if (branch.decided_by_edge && !branch.edge.MayMatch(action)) continue;
+    if (children_[i].Execute(variables, target) == Answer::kTrue) return;
+  }
+}
+
 void Command::ExecuteChildren(const ScriptVariables& variables, ScriptTarget& target) const {
-  for (const Command& child : children_) child.Execute(variables, target);
+  for (const Command& child : children_) {
+    if (child.type_ == NodeType::kAction) {
+      bool unused = false;
+      target.Interpret(*child.statement_, false, unused);
+    } else {
+      child.Execute(variables, target);
+    }
+  }
 }
 
 void Command::PrintCommand(std::vector<std::string>& lines) const {
   switch (type_) {
-    case NodeType::kBegin: lines.emplace_back("begin"); break;
-    case NodeType::kBoolIf: lines.push_back("if" + text_); break;
-    case NodeType::kBoolElseIf: lines.push_back("elseif" + text_); break;
-    case NodeType::kBoolElse: lines.push_back("else" + text_); break;
-    case NodeType::kAction: lines.push_back(text_); break;
+    case NodeType::kBegin:
+      lines.emplace_back("begin");
+      break;
+    case NodeType::kBoolIf:
+      lines.push_back("if" + text_);
+      break;
+    case NodeType::kBoolElseIf:
+      lines.push_back("elseif" + text_);
+      break;
+    case NodeType::kBoolElse:
+      lines.push_back("else" + text_);
+      break;
+    case NodeType::kAction:
+      lines.push_back(text_);
+      break;
     case NodeType::kIf:
-    case NodeType::kNone: break;
+    case NodeType::kNone:
+      break;
   }
   for (const Command& child : children_) child.PrintCommand(lines);
   if (type_ == NodeType::kBegin) lines.emplace_back("end");

@@ -63,6 +63,12 @@ class Command {
     std::optional<Pattern> pattern;
   };
 
+  // What of a branch is looked at on every event, side by side in memory.
+  struct Branch {
+    Pattern::Edge edge;
+    bool decided_by_edge = false;  // the edge can reject; else the branch is asked itself
+  };
+
   void ParseCondition(const std::vector<ScriptLine>& lines, std::size_t& position,
                       std::string& stack, WorkDepth& depth);
   void ParseBegin(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
@@ -70,6 +76,8 @@ class Command {
   void ParseIf(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
                WorkDepth& depth);
   void CompileCondition();
+  void ListBranches();
+  void ExecuteIf(const ScriptVariables& variables, ScriptTarget& target) const;
   bool Holds(const ScriptVariables& variables) const;
   void ExecuteChildren(const ScriptVariables& variables, ScriptTarget& target) const;
 
@@ -77,7 +85,8 @@ class Command {
   std::string text_;
   FilePlace place_;
   std::vector<Command> children_;
-  Condition condition_;                  // of a boolif1 or boolelseif1
+  Condition condition_;                 // of a boolif1 or boolelseif1
+  std::vector<Branch> branches_;        // of an if: one for each child
   std::optional<Statement> statement_;  // of an action
 };
 

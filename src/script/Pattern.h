@@ -4,13 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "script/ActionText.h"
+
 namespace quendle {
-
-class ActionText;
-
-// Eight bytes at the front or at the back of a text as one word; missing bytes are 0.
-std::uint64_t FirstEightBytes(std::string_view text);
-std::uint64_t LastEightBytes(std::string_view text);
 
 // The pattern of a condition, compiled once when the script is parsed.
 //
@@ -21,16 +17,28 @@ std::uint64_t LastEightBytes(std::string_view text);
 class Pattern {
  public:
   explicit Pattern(std::string_view text);
-  bool Matches(const ActionText& action) const;
+  bool Matches(const ActionText& action) const {
+    return edge_.MayMatch(action) && MatchesSlowly(action);
+  }
+
+  // The eight bytes at the edge that decides: one compare rejects nearly always.
+  struct Edge {
+    std::uint64_t word = 0;
+    std::uint64_t mask = 0;
+    bool at_end = false;
+    bool MayMatch(const ActionText& action) const {
+      return ((at_end ? action.Tail() : action.Head()) & mask) == word;
+    }
+  };
+  const Edge& GetEdge() const { return edge_; }
 
  private:
   enum class Kind { kEqual, kAtEnd, kAtFront };
   bool MatchesSlowly(const ActionText& action) const;
 
   Kind kind_ = Kind::kEqual;
-  std::string needle_;      // folded
-  std::uint64_t word_ = 0;  // its first or last eight bytes: one compare rejects nearly always
-  std::uint64_t mask_ = 0;
+  std::string needle_;  // folded
+  Edge edge_;
 };
 
 }  // namespace quendle

@@ -16,9 +16,9 @@ class WorkDepth;
 
 // A record of three lines of a script list; the third has no meaning.
 struct ScriptListRecord {
-  std::string name;   // may hold "globalscript_"
-  std::string path;   // as stored
-  FilePlace place;    // of the name
+  std::string name;  // may hold "globalscript_"
+  std::string path;  // as stored
+  FilePlace place;   // of the name
 };
 
 // Reads a script list to its end.

@@ -24,7 +24,7 @@ constexpr Rect kTitleButtonSize{0, 0, 28, 28};
 
 TandrelPrompt::TandrelPrompt(FormServices services, Boxes& boxes, GameStarter& starter,
                              std::int16_t edition)
-    : PictureForm(services, "TandrelPrompt", {420, 420}, kLastPicture),
+    : PictureForm(services, "TandrelPrompt", {420, 470}, kLastPicture),
       boxes_(boxes),
       starter_(starter),
       edition_(edition),
@@ -93,12 +93,12 @@ void TandrelPrompt::BuildForm() {
   form_.caption = settings.ProductName;
   AddLabel(form_, "Label1", "Please Select an Option...", {18, 13, 306, 41}).font_size =
       kTitleFontSize;
-  AddPicturePair(form_, 1, "play", "Play", {60, 58, 360, 128});
-  AddPicturePair(form_, 3, "personalize", "Personalize", {60, 140, 360, 210});
-  AddPicturePair(form_, 5, "options", "Options", {60, 222, 360, 292});
-  AddPicturePair(form_, 13, "link", settings.ProductName + " on the Web", {110, 304, 310, 344});
-  AddLink(form_, "Label2", settings.WebAddress, {24, 354, 396, 378});
-  AddLink(form_, "Label3", settings.SupportAddress, {24, 382, 396, 406});
+  AddPicturePair(form_, 1, "play", "Play", {40, 54, 380, 164});
+  AddPicturePair(form_, 3, "personalize", "Personalize", {60, 178, 360, 244});
+  AddPicturePair(form_, 5, "options", "Options", {60, 256, 360, 322});
+  AddPicturePair(form_, 13, "link", settings.ProductName + " on the Web", {110, 336, 310, 376});
+  AddLink(form_, "Label2", settings.WebAddress, {24, 394, 396, 418});
+  AddLink(form_, "Label3", settings.SupportAddress, {24, 424, 396, 448});
   AddPicturePair(form_, 7, "minimise", "Minimise", kTitleButtonSize);
   AddPicturePair(form_, 9, "maximise", "Maximise", kTitleButtonSize);
   AddPicturePair(form_, 11, "close", "Close", kTitleButtonSize);

@@ -3,8 +3,12 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
+#include "toolbelt/Drive.h"
+#include "toolbelt/DriveCommand.h"
 #include "toolbelt/PictureTool.h"
+#include "toolbelt/SmallestContent.h"
 
 namespace quendle {
 namespace {
@@ -23,12 +27,55 @@ void AddPicture(CLI::App& belt) {
   picture->callback([input, output] { MakeKeyedBitmap(*input, *output); });
 }
 
+void AddDrive(CLI::App& belt, int& exit_code) {
+  CLI::App* drive =
+      belt.add_subcommand("drive", "Plays the game in virtual time, driven by one command a line");
+  auto settings = std::make_shared<DriveSettings>();
+  auto path = std::make_shared<std::string>("directdraw");
+  DriveOptions& options = settings->options;
+  drive->add_option("--content", settings->content, "The content tree")
+      ->required()
+      ->check(CLI::ExistingDirectory);
+  drive->add_option("--user", settings->user,
+                    "Where everything is written; without it, the content tree");
+  drive->add_option("--edition", options.edition, "2 is the product, 1 its sibling")
+      ->check(CLI::IsMember({1, 2}))
+      ->capture_default_str();
+  drive->add_option("--seed", options.seed, "Where chance begins")->capture_default_str();
+  drive->add_option("--path", *path, "directdraw, or window: the first drawing path fails")
+      ->check(CLI::IsMember({"directdraw", "window"}))
+      ->capture_default_str();
+  drive->add_flag("--other-instance", options.other_instance, "Another instance runs already");
+  drive->add_option("--system", options.system_version, "Major version of the system");
+  drive->add_option("FILE", settings->file, "The commands; without it, standard input")
+      ->check(CLI::ExistingFile);
+  drive->footer(
+      "Each command is answered by one line of JSON. A line that begins with # or > is a\n"
+      "comment.\n"
+      "Exit code 0, or 3 when the game ended fatally. Commands:\n\n" +
+      CommandHelp());
+  drive->callback([settings, path, &exit_code] {
+    settings->options.window_path = *path == "window";
+    exit_code = RunDrive(*settings);
+  });
+}
+
+void AddNew(CLI::App& belt) {
+  CLI::App* tool = belt.add_subcommand("new", "Makes a smallest content tree that runs");
+  auto folder = std::make_shared<std::string>();
+  tool->add_option("DIR", *folder, "A folder that is empty or not there yet")->required();
+  tool->callback([folder] { MakeNewContent(*folder); });
+}
+
 }  // namespace
 
 int RunToolBelt(std::vector<std::string> words) {
   CLI::App belt("The tool belt of the clinic's authors. No window is ever needed.", "quendle");
   belt.require_subcommand(0, 1);  // none at all is answered below, with the help
+  int exit_code = 0;
+  AddDrive(belt, exit_code);
   AddPicture(belt);
+  AddNew(belt);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);
@@ -42,7 +89,7 @@ int RunToolBelt(std::vector<std::string> words) {
     std::cerr << belt.help();
     return kUsageError;
   }
-  return 0;
+  return exit_code;
 }
 
 }  // namespace quendle

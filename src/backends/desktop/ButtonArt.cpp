@@ -55,7 +55,7 @@ struct Box {
 // The button's body; gives the part that is free for icon and word.
 Box DrawBody(Canvas& canvas, const Look& look, const Rect& area, ButtonState state) {
   double small = std::min(area.Width(), area.Height());
-  double rim = small < 40 ? 2 : 4;
+  double rim = small < 40 ? 2.5 : 5.5;
   double line = small < 40 ? 1.6 : 3;
   double depth = small < 40 ? 2 : std::min(6.0, small * 0.08);
   double down = state.pressed ? kPressedDown : 0;
@@ -64,7 +64,7 @@ Box DrawBody(Canvas& canvas, const Look& look, const Rect& area, ButtonState sta
   double radius = std::min(body.Short() * 0.42, 26.0);
   Path top = Path::RoundRect(body.x, body.y, body.width, body.height, radius);
   Path base = Path::RoundRect(body.x, body.y, body.width, body.height + depth - down, radius);
-  if (state.highlighted) canvas.Stroke(base, line + 2 * rim, kSun);
+  if (state.highlighted) canvas.Stroke(base, 2 * rim, kSun);
   canvas.Stroke(base, line, kOutline);
   canvas.Fill(base, Mix(look.deep, kOutline, 0.25));
   Rgba light = state.highlighted ? Mix(look.light, kWhite, 0.28) : look.light;

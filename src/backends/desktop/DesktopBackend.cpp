@@ -1,5 +1,6 @@
 #include "backends/desktop/DesktopBackend.h"
 
+#include <iostream>
 #include <random>
 #include <utility>
 
@@ -41,7 +42,7 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
       ports_{files_,       clock_,         loop_.Timers(), random_,  boxes_, gdi_,
              direct_draw_, display_modes_, filter_graphs_, *window_, forms_, system_} {
   if (!library_.HasVideo()) {
-    throw FatalError(std::string("no display can be opened: ") + library_.Problem());
+    throw FatalError("no display can be opened: " + library_.Problem());
   }
   loop_.Add(window_);
   window_->BeforeShow([this] { forms_.ShowFormInView(); });
@@ -55,6 +56,7 @@ bool DesktopBackend::TellWhatIsMissing(const std::string& product) {
     return false;
   }
   if (folders_.content.empty()) {
+    std::cerr << ContentMissingText(folders_) << "\n";
     boxes_.MessageBox(product, ContentMissingText(folders_));
     return false;
   }

@@ -53,6 +53,8 @@ std::string DesktopBoxes::AskForText(const std::string& title, const std::string
 
 int DesktopBoxes::Ask(BoxForm& box) {
   FormInput input(box.Record(), box);
+  // The character of the key that brought the box up isn't meant for it.
+  SDL_FlushEvent(SDL_TEXTINPUT);
   if (window_.IsOpen()) {
     AskOverFrame(box, input);
   } else if (!text_.HasFont() || !AskInOwnWindow(box, input)) {

@@ -184,7 +184,7 @@ void FormPainter::PaintChoice(Canvas& canvas, const Control& control, bool press
 
 void FormPainter::PaintFrame(Canvas& canvas, const Control& control) {
   TextStyle style{LetterSize(control.font_size), true, false, LetterColor(control)};
-  double room = control.area.Width() - 48;
+  double room = control.area.Width() - 30;
   double width = text_.WidthOf(control.text, style, canvas.Scale());
   if (width > room) {
     style.size = std::floor(style.size * room / width);
@@ -197,11 +197,10 @@ void FormPainter::PaintFrame(Canvas& canvas, const Control& control) {
   canvas.Fill(box, Hex(0xFFFCF5, 215));
   canvas.Stroke(box, 2, Hex(0xE3A35F));
   if (control.text.empty()) return;
-  Path sign =
-      Path::RoundRect(control.area.left + 14, control.area.top - 1, width + 20, line + 2, 9);
+  Path sign = Path::RoundRect(control.area.left + 8, control.area.top - 1, width + 14, line + 2, 9);
   canvas.Fill(sign, kPeach);
   canvas.Stroke(sign, 2, Hex(0xE3A35F));
-  text_.Draw(canvas, control.text, style, control.area.left + 24, control.area.top);
+  text_.Draw(canvas, control.text, style, control.area.left + 15, control.area.top);
 }
 
 void FormPainter::PaintScroll(Canvas& canvas, const Control& control) {

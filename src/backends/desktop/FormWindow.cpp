@@ -50,7 +50,7 @@ bool FormWindow::Show(FormInput* input) {
   if (input_ != nullptr) input_->Reset();
   input_ = input;
   if (input_ == nullptr) {
-    if (window_ != nullptr) SDL_HideWindow(window_.get());
+    window_.reset();
     return true;
   }
   if (!Open()) {
@@ -58,7 +58,6 @@ bool FormWindow::Show(FormInput* input) {
     return false;
   }
   minimised_ = false;
-  Fit();
   Paint();
   SDL_ShowWindow(window_.get());
   SDL_RaiseWindow(window_.get());
@@ -108,40 +107,41 @@ void FormWindow::HandleQuit() {
   if (input_ != nullptr) input_->Close();
 }
 
+// The window for the form: a new one in the middle of the display, or the one before, fitted.
 bool FormWindow::Open() {
-  if (window_ != nullptr) return true;
-  window_.reset(SDL_CreateWindow("", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, 400, 300,
-                                 SDL_WINDOW_HIDDEN | SDL_WINDOW_BORDERLESS));
-  if (window_ == nullptr) return false;
-  SDL_SetWindowHitTest(window_.get(), HitTest, this);
-  SetIcon(window_.get());
+  const Form& form = input_->Record();
+  int number = window_ == nullptr ? 0 : std::max(SDL_GetWindowDisplayIndex(window_.get()), 0);
+  SDL_Rect display{0, 0, 1024, 768};
+  SDL_GetDisplayUsableBounds(number, &display);
+  scale_ = ScaleFor(form.size, display);
+  Size size{static_cast<int>(std::lround(form.size.width * scale_)),
+            static_cast<int>(std::lround(form.size.height * scale_))};
+  if (window_ != nullptr) {
+    Fit(size, {display.x, display.y});
+  } else {
+    // Window systems keep the first place of a window, so it is right from the start.
+    window_.reset(SDL_CreateWindow("", display.x + (display.w - size.width) / 2,
+                                   display.y + (display.h - size.height) / 2, size.width,
+                                   size.height, SDL_WINDOW_HIDDEN | SDL_WINDOW_BORDERLESS));
+    if (window_ == nullptr) return false;
+    SDL_SetWindowHitTest(window_.get(), HitTest, this);
+    SetIcon(window_.get());
+  }
+  SDL_SetWindowTitle(window_.get(), ToUtf8(form.caption).c_str());
   return true;
 }
 
-void FormWindow::Fit() {
-  const Form& form = input_->Record();
-  SDL_Rect display{0, 0, 1024, 768};
-  SDL_GetDisplayUsableBounds(std::max(SDL_GetWindowDisplayIndex(window_.get()), 0), &display);
-  scale_ = ScaleFor(form.size, display);
-  auto width = static_cast<int>(std::lround(form.size.width * scale_));
-  auto height = static_cast<int>(std::lround(form.size.height * scale_));
-  // The next form takes the middle of the one before, wherever the player has moved that.
+// The next form takes the middle of the one before, wherever the player has moved that.
+void FormWindow::Fit(Size size, Point corner) {
   int x = 0;
   int y = 0;
-  int old_width = 0;
-  int old_height = 0;
-  bool was_shown = (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_SHOWN) != 0;
+  int width = 0;
+  int height = 0;
   SDL_GetWindowPosition(window_.get(), &x, &y);
-  SDL_GetWindowSize(window_.get(), &old_width, &old_height);
-  SDL_SetWindowTitle(window_.get(), ToUtf8(form.caption).c_str());
-  SDL_SetWindowSize(window_.get(), width, height);
-  if (was_shown) {
-    SDL_SetWindowPosition(window_.get(), std::max(display.x, x + (old_width - width) / 2),
-                          std::max(display.y, y + (old_height - height) / 2));
-  } else {
-    SDL_SetWindowPosition(window_.get(), display.x + (display.w - width) / 2,
-                          display.y + (display.h - height) / 2);
-  }
+  SDL_GetWindowSize(window_.get(), &width, &height);
+  SDL_SetWindowSize(window_.get(), size.width, size.height);
+  SDL_SetWindowPosition(window_.get(), std::max(corner.x, x + (width - size.width) / 2),
+                        std::max(corner.y, y + (height - size.height) / 2));
 }
 
 void FormWindow::Paint() {

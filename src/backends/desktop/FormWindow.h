@@ -22,7 +22,7 @@ class FormWindow : public SdlEventTarget {
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
 
-  // Shows the form of `input`, or hides the window for a null one. `input` outlives its showing.
+  // Shows the form of `input`, or closes the window for a null one. `input` outlives its showing.
   // False when no window can be had.
   bool Show(FormInput* input);
   FormInput* Shown() { return input_; }
@@ -41,7 +41,7 @@ class FormWindow : public SdlEventTarget {
     void operator()(SDL_Window* window) const;
   };
   bool Open();
-  void Fit();
+  void Fit(Size size, Point corner);
   void Paint();
   FormPlace Place() const;
 

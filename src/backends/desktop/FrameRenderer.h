@@ -17,7 +17,7 @@ namespace quendle {
 // Draws the frame, scaled, and what lies over it into a window.
 class FrameRenderer {
  public:
-  // With the graphics device where there is one, else in software. Neither is fatal to be without:
+  // With the graphics device where there is a real one, else in software. Without either:
   // FatalError.
   explicit FrameRenderer(SDL_Window* window);
   ~FrameRenderer();

@@ -2,7 +2,19 @@
 
 #include <SDL.h>
 
+#include <string_view>
+
 namespace quendle {
+namespace {
+
+// Without a display the library falls back to drivers that nobody can see. They serve whoever asks
+// for one by name; a player would only see a program that hangs.
+bool IsSeen(std::string_view driver) {
+  bool unseen = driver == "offscreen" || driver == "dummy" || driver == "evdev";
+  return !unseen || SDL_getenv("SDL_VIDEODRIVER") != nullptr;
+}
+
+}  // namespace
 
 SdlLibrary::SdlLibrary() {
   SDL_SetMainReady();
@@ -11,13 +23,18 @@ SdlLibrary::SdlLibrary() {
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
   // The first press on a window that had no focus is meant for what lies under the pointer.
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+  // Forms and the software path put their pixels on the screen themselves: going through the
+  // graphics device would load its whole driver for nothing.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   // A touch arrives as mouse events once, not twice.
   SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, "1");
-  has_video_ = SDL_Init(SDL_INIT_VIDEO) == 0;
+  if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+    problem_ = SDL_GetError();
+  } else if (!IsSeen(SDL_GetCurrentVideoDriver())) {
+    problem_ = "neither X11 nor Wayland answers";
+  }
 }
 
 SdlLibrary::~SdlLibrary() { SDL_Quit(); }
-
-const char* SdlLibrary::Problem() const { return has_video_ ? "" : SDL_GetError(); }
 
 }  // namespace quendle

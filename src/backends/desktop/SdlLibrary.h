@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace quendle {
 
 // Holds the media library's video and events while it lives. Make one first.
@@ -11,11 +13,11 @@ class SdlLibrary {
   SdlLibrary& operator=(const SdlLibrary&) = delete;
 
   // False without a display; Problem tells why.
-  bool HasVideo() const { return has_video_; }
-  const char* Problem() const;
+  bool HasVideo() const { return problem_.empty(); }
+  const std::string& Problem() const { return problem_; }
 
  private:
-  bool has_video_ = false;
+  std::string problem_;
 };
 
 }  // namespace quendle

@@ -20,7 +20,7 @@ std::string NumberOf(const SDL_version& version) {
 
 std::string DrawingBackend() {
   SdlLibrary library;
-  if (!library.HasVideo()) return std::string("none: ") + library.Problem();
+  if (!library.HasVideo()) return "none: " + library.Problem();
   struct Destroy {
     void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
   };

@@ -34,8 +34,9 @@ std::string File2x2(int bits, const std::string& palette, const std::string& pix
 std::string Good24() {
   // Bottom row first: blue, green; then red, white. Two bytes of padding a row.
   return File2x2(24, "",
-                 std::string("\xFF\x00\x00\x00\xFF\x00\x00\x00", 8) +
-                     std::string("\x00\x00\xFF\xFF\xFF\xFF\x00\x00", 8));
+                 std::string("\xFF\x00\x00\x00\xFF\x00\x00\x00"
+                             "\x00\x00\xFF\xFF\xFF\xFF\x00\x00",
+                             16));
 }
 
 std::vector<std::uint32_t> Pixels(const BitmapFile& file) {

@@ -1,0 +1,141 @@
+// Objects and state.
+
+#include <nlohmann/json.hpp>
+
+#include "base/Text.h"
+#include "logic/GameLogicLayer.h"
+#include "object/GameObject.h"
+#include "toolbelt/DriveCommand.h"
+#include "toolbelt/ObjectPath.h"
+#include "toolbelt/Views.h"
+
+namespace quendle {
+namespace {
+
+Json State(DriveSession& session, Arguments& arguments) {
+  arguments.End();
+  return StateAnswer(session);
+}
+
+Json Object(DriveSession& session, Arguments& arguments) {
+  const ObjectRef object = ObjectAt(session, arguments.Word());
+  arguments.End();
+  return {{"object", DescribeObject(*object)}};
+}
+
+Json Tree(DriveSession& session, Arguments& arguments) {
+  const ObjectRef object =
+      ObjectAt(session, arguments.Empty() ? std::string("current") : arguments.Word());
+  arguments.End();
+  return {{"object", DescribeTree(*object)}};
+}
+
+Json Inspect(DriveSession& session, Arguments& arguments) {
+  const ObjectRef object = ObjectAt(session, arguments.Word());
+  arguments.End();
+  return InspectObject(*object, session);
+}
+
+Json Memento(DriveSession& session, Arguments& arguments) {
+  const std::string name = arguments.Rest();
+  const ScreenKeeper* keeper = session.Logic().Keeper();
+  const GameObjectMemento::Ref* memento =
+      keeper == nullptr ? nullptr : keeper->Mementos().Find(name);
+  if (memento == nullptr) throw CommandRefused("nothing is kept of a screen \"" + name + "\"");
+  return {{"memento", DescribeMemento(**memento)}};
+}
+
+std::string OwnerOf(const ObjectWorld& world, const TimerInfo& timer) {
+  const auto* timed = world.TimedObjects.Find(std::to_string(timer.id));
+  const ObjectRef object = timed == nullptr ? nullptr : timed->lock();
+  if (object == nullptr) return EqualsNoCase(timer.callback, "OnLogicTimer") ? "GameLogic" : "";
+  const GameObject* inner = InnerObject(*object);
+  return inner == nullptr ? object->ObjectName() : inner->WorkPath();
+}
+
+Json Timers(DriveSession& session, Arguments& arguments) {
+  arguments.End();
+  const Globals* globals = session.Game().Game();
+  Json list = Json::array();
+  for (const TimerInfo& timer : session.Platform().timers.Running()) {
+    const std::string owner = globals == nullptr ? "" : OwnerOf(globals->objects, timer);
+    list.push_back({{"id", timer.id},
+                    {"interval", timer.interval.count()},
+                    {"due", timer.due.count()},
+                    {"owner", TextJson(owner)},
+                    {"callback", timer.callback}});
+  }
+  return {{"timers", std::move(list)}};
+}
+
+Json Sounds(DriveSession& session, Arguments& arguments) {
+  arguments.End();
+  return {{"players", DescribePlayers(session)}};
+}
+
+Json SwitchTrace(DriveSession& session, Arguments& arguments) {
+  const std::string word = arguments.Word();
+  arguments.End();
+  const bool on = EqualsNoCase(word, "on");
+  if (!on && !EqualsNoCase(word, "off")) {
+    arguments.Refuse("\"" + word + "\" is neither on nor off");
+  }
+  session.Game().SetTracer(on ? &session.Trace() : nullptr);
+  return Json::object();
+}
+
+const char* KindName(TraceKind kind) {
+  switch (kind) {
+    case TraceKind::kMessage:
+      return "message";
+    case TraceKind::kScript:
+      return "script";
+    case TraceKind::kStatement:
+      return "statement";
+    case TraceKind::kState:
+      return "state";
+    case TraceKind::kSound:
+      return "sound";
+    case TraceKind::kTimer:
+      return "timer";
+    case TraceKind::kScreen:
+      return "screen";
+    case TraceKind::kLog:
+      return "log";
+  }
+  return "";
+}
+
+Json Events(DriveSession& session, Arguments& arguments) {
+  arguments.End();
+  Json list = Json::array();
+  for (const TracedEvent& event : session.Trace().Take()) {
+    list.push_back({{"kind", KindName(event.kind)},
+                    {"to", TextJson(event.to)},
+                    {"from", TextJson(event.from)},
+                    {"text", TextJson(event.text)},
+                    {"verifying", event.verifying},
+                    {"depth", event.depth}});
+  }
+  return {{"events", std::move(list)}};
+}
+
+}  // namespace
+
+const CommandTable& SeeingCommands() {
+  static const CommandTable kTable = {
+      {"state", "the game as a whole", State},
+      {"object PATH", "one object: SCREEN/child/... or global/NAME", Object},
+      {"tree [SCREEN]", "the same, children nested; without a word the current screen", Tree},
+      {"inspect PATH", "what was loaded of an object", Inspect},
+      {"memento NAME", "what is kept of a screen", Memento},
+      {"timers", "the running timers", Timers},
+      {"sounds", "the players that hold a file", Sounds},
+      {"trace on|off", "watch messages, scripts, states, sounds, timers, screens, the log",
+       SwitchTrace},
+      {"events", "what was traced since last asked", Events},
+  };
+  return kTable;
+}
+
+}  // namespace quendle
