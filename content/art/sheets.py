@@ -4,6 +4,8 @@ A sheet is a transparent picture with cells of sprites; a screen is one opaque c
 `SHEETS` maps the path of the made picture, without its ending, to the function that gives it.
 """
 
+from functools import partial
+
 from animals import dog, dog_paw
 from cat import cat, cat_face, flea
 from furniture import *
@@ -259,20 +261,23 @@ def fresh_panel():
     return sheet
 
 
-def doors():
+def door(colour, sign):
     sheet = Sheet(132, 234, 2)
-    kinds = (
-        ("out", CORAL, sign_plate(house(66, 84, 1.0))),
-        ("dog", TEAL, sign_plate(dog_face(66, 84, 0.95))),
-        ("shelf", ORANGE, sign_plate(bandaid(66, 84, 0.9))),
-        ("hall", YELLOW, sign_plate(hall_sign(66, 84))),
-        ("cat", GREEN, sign_plate(cat_face(66, 86, 0.95))),
-        ("rabbit", PINK, sign_plate(rabbit_face(66, 90, 0.85))),
-    )
-    for name, colour, sign in kinds:
-        sheet.add(name, door_leaf(colour, sign))
-        sheet.add(name + "-open", glowing(door_leaf(colour, sign, open_door=True), 0))
+    sheet.add("shut", door_leaf(colour, sign_plate(sign)))
+    sheet.add("open", glowing(door_leaf(colour, sign_plate(sign), open_door=True), 0))
     return sheet
+
+
+# The colour and the sign of each door. An object loads its whole picture, so each has its own.
+DOORS = {
+    "homedoor": lambda: door(CORAL, house(66, 84, 1.0)),
+    "dogdoor": lambda: door(TEAL, dog_face(66, 84, 0.95)),
+    "shelfdoor": lambda: door(ORANGE, bandaid(66, 84, 0.9)),
+    "halldoor": lambda: door(YELLOW, hall_sign(66, 84)),
+    "hall2door": lambda: door(YELLOW, hall_sign(66, 84)),
+    "catdoor": lambda: door(GREEN, cat_face(66, 86, 0.95)),
+    "rabbitdoor": lambda: door(PINK, rabbit_face(66, 90, 0.85)),
+}
 
 
 def hall_sign(cx, cy):
@@ -437,18 +442,18 @@ def rabbit_sheet():
     return patient_sheet(draw, ("cold", "drunk", "fed"), "well")
 
 
-def shelf_items():
+def shelf_item(name, tool):
+    """A tool as it lies on the shelf."""
+    if name == "bandaid":
+        piece = solid(box(12, 34, 80, 68, 8), WHITE, 6) + solid(box(12, 34, 80, 16, 6), CORAL, 3) + bandaid(52, 76, 0.62)
+        piece = solid(poly((20, 34), (34, 12), (70, 12), (84, 34)), CORAL, 4) + move(bandage_strip(0, 0, 46, 18), 52, 22, turn=-14) + piece
+    else:
+        size = {"fleacollar": 1.1, "water": 1.15, "grapes": 1.2}.get(name, 1.3)
+        piece = tool(52, 100 - 34 * size, size)
     sheet = Sheet(104, 112, 3)
-    box_piece = solid(box(12, 34, 80, 68, 8), WHITE, 6) + solid(box(12, 34, 80, 16, 6), CORAL, 3) + bandaid(52, 76, 0.62)
-    box_piece = solid(poly((20, 34), (34, 12), (70, 12), (84, 34)), CORAL, 4) + move(bandage_strip(0, 0, 46, 18), 52, 22, turn=-14) + box_piece
-    pieces = [("bandaid", box_piece), ("antiseptic", antiseptic(50, 58, 1.3))]
-    sizes = {"fleacollar": 1.1, "water": 1.15, "grapes": 1.2}
-    pieces += [(name, tool(52, 100 - 34 * sizes.get(name, 1.3), sizes.get(name, 1.3))) for name, tool, _, _, _ in TOOLS[4:]]
-    for name, piece in pieces:
-        sheet.add(name, piece)
-        sheet.add(name + "-glow", glowing(piece))
-        taken = move(piece, 0, -4) + sparkle(18, 18, 13, YELLOW) + sparkle(88, 26, 10, WHITE) + sparkle(86, 90, 12, YELLOW)
-        sheet.add(name + "-taken", taken)
+    sheet.add("rest", piece)
+    sheet.add("glow", glowing(piece))
+    sheet.add("taken", move(piece, 0, -4) + sparkle(18, 18, 13, YELLOW) + sparkle(88, 26, 10, WHITE) + sparkle(86, 90, 12, YELLOW))
     return sheet
 
 
@@ -473,10 +478,16 @@ def tool_bar():
     return sheet
 
 
-def tools():
+def bar_tool(tool, x, y, size):
     sheet = Sheet(72, 84, 3)
-    for name, tool, x, y, size in TOOLS:
-        add_states(sheet, name, tool(x, y, size))
+    add_states(sheet, "tool", tool(x, y, size))
+    return sheet
+
+
+def key_colour():
+    """Nothing but the ground: the engine reads the colour that is seen through from this picture."""
+    sheet = Sheet(8, 8, 1)
+    sheet.add("ground", "")
     return sheet
 
 
@@ -489,13 +500,15 @@ def scroll_buttons():
     return sheet
 
 
-def cursors():
-    sheet = Sheet(64, 64, 3)
-    sheet.add("hand", hand(24, 25, 1.0))
-    sheet.add("bandaid", bandaid(32, 32, 0.8))
-    sheet.add("antiseptic", move(antiseptic(34, 33, 0.78), size=(-1, 1), about=(34, 33)) + drops(6, 12, 0.62))
-    for name, tool, _, _, _ in TOOLS[4:]:
-        sheet.add(name, tool(32, 32, 0.78))
+def pointer(name, tool):
+    sheet = Sheet(64, 64, 1)
+    if name == "hand":
+        piece = hand(24, 25, 1.0)
+    elif name == "antiseptic":
+        piece = move(antiseptic(34, 33, 0.78), size=(-1, 1), about=(34, 33)) + drops(6, 12, 0.62)
+    else:
+        piece = tool(32, 32, 0.78)
+    sheet.add("pointer", piece)
     return sheet
 
 
@@ -540,19 +553,23 @@ SHEETS = {
     "Info/Floor1/rabbitroom/rabbit": rabbit_sheet,
     "Info/Floor1/emptyroom1/room": emptyroom,
     "Info/Floor1/emptyroom1/basket": tool_basket,
-    "Info/Floor1/emptyroom1/items": shelf_items,
     "Info/Book/book": bookscreen,
     "Info/Book/back": book_back,
     "Info/Doctor/doctor": doctor_sheet,
     "Info/Doctor/eyes": doctor_eyes_sheet,
-    "Info/GlobalReferences/images/doors": doors,
     "Info/GlobalReferences/images/yesno": yes_no,
     "Info/GlobalReferences/images/person/face": person_face,
     "Info/GlobalReferences/images/person/doctorsuit": person_suit,
     "Info/GlobalReferences/images/person/doctor": person_doctor,
     "Info/Tools/bar": tool_bar,
-    "Info/Tools/tool": tools,
+    "Info/Tools/tool": key_colour,
     "Info/Tools/scroll": scroll_buttons,
-    "Info/Cursors/cursors": cursors,
     "Info/Cursors/exitpanel": exit_panel,
 }
+SHEETS.update({f"Info/GlobalReferences/doors/{name}": make for name, make in DOORS.items()})
+for _name, _tool, _x, _y, _size in TOOLS:
+    SHEETS[f"Info/Tools/{_name}/tool"] = partial(bar_tool, _tool, _x, _y, _size)
+    if _name != "medicalbook":
+        SHEETS[f"Info/Cursors/{_name}/pointer"] = partial(pointer, _name, _tool)
+    if _name not in ("hand", "medicalbook"):
+        SHEETS[f"Info/Floor1/emptyroom1/{_name}"] = partial(shelf_item, _name, _tool)

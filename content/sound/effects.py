@@ -89,10 +89,6 @@ def cure():
     return mix(*((i * 0.09, bell(0.45, hz, 0.7 + i * 0.06)) for i, hz in enumerate((659, 784, 988, 1319))))
 
 
-def spray():
-    return mix((0, noise(0.2, 0.9, 0.15, 0.12, 5)), (0.24, noise(0.26, 0.9, 0.15, 0.14, 6)))
-
-
 def dogow():
     return mix((0, tone(0.3, (620, 900, 560), 0.8, SOFT, 0.03, None, (11, 0.02))), (0.34, tone(0.34, (560, 720, 420), 0.6, SOFT, 0.03, None, (11, 0.02))))
 
@@ -125,21 +121,10 @@ def rabbitjoy():
     return mix((0, thump), (0.14, thump), (0.3, squeak), (0.5, squeak))
 
 
-def sneeze():
-    breath = noise(0.22, 0.3, 0.6, None, 8)
-    return mix((0, breath), (0.26, noise(0.22, 1.0, 0.2, 0.07, 9)), (0.26, tone(0.2, (900, 500), 0.7, SOFT, 0.004, 0.06)))
-
-
-def party():
-    return mix(*((i * 0.1, bell(0.4, hz, 0.8)) for i, hz in enumerate((523, 659, 784, 1047))), (0.4, bell(0.4, 1319, 0.9)))
-
-
-EFFECTS = {
-    f.__name__: f
-    for f in (click, door, take, back, page, cure, spray, dogow, dogjoy, catow, catjoy, rabbitow, rabbitjoy, sneeze, party)
-}
+EFFECTS = {f.__name__: f for f in (click, door, take, back, page, cure, dogow, dogjoy, catow, catjoy, rabbitow, rabbitjoy)}
 
 
 def padded(samples):
-    """At least 0.2 seconds long, as a noise must be to be heard at all."""
-    return samples + silence(max(0.0, 0.2 - len(samples) / RATE))
+    """With a moment of silence at both ends, where the encoder smears, and at least 0.25 seconds long."""
+    out = silence(0.02) + samples + silence(0.03)
+    return out + silence(max(0.0, 0.25 - len(out) / RATE))
