@@ -2,12 +2,15 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <iostream>
 #include <memory>
 
+#include "toolbelt/Bench.h"
 #include "toolbelt/Drive.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/PictureTool.h"
+#include "toolbelt/Render.h"
 #include "toolbelt/SmallestContent.h"
 
 namespace quendle {
@@ -53,11 +56,33 @@ void AddDrive(CLI::App& belt, int& exit_code) {
       "Each command is answered by one line of JSON. A line that begins with # or > is a\n"
       "comment.\n"
       "Exit code 0, or 3 when the game ended fatally. Commands:\n\n" +
-      CommandHelp());
+      CommandHelp() + FaultHelp());
   drive->callback([settings, path, &exit_code] {
     settings->options.window_path = *path == "window";
     exit_code = RunDrive(*settings);
   });
+}
+
+void AddRender(CLI::App& belt, int& exit_code) {
+  CLI::App* tool = belt.add_subcommand("render", "Writes the picture of a screen as a PNG file");
+  auto words = std::make_shared<std::array<std::string, 3>>();
+  tool->add_option("DIR", (*words)[0], "The content tree")
+      ->required()
+      ->check(CLI::ExistingDirectory);
+  tool->add_option("SCREEN", (*words)[1], "Its name in the screen table")->required();
+  tool->add_option("OUT.png", (*words)[2], "The picture to write")->required();
+  tool->callback(
+      [words, &exit_code] { exit_code = RenderScreen((*words)[0], (*words)[1], (*words)[2]); });
+}
+
+void AddBench(CLI::App& belt) {
+  CLI::App* tool = belt.add_subcommand("bench", "Measures one workload and prints lines of JSON");
+  auto workload = std::make_shared<std::string>();
+  auto folder = std::make_shared<std::string>(DefaultBenchFolder());
+  tool->add_option("WORKLOAD", *workload, "W1: whole frames; W3: mouse events; others: nothing")
+      ->required();
+  tool->add_option("--data", *folder, "The folder of the inputs")->capture_default_str();
+  tool->callback([workload, folder] { RunBench(*workload, *folder); });
 }
 
 void AddNew(CLI::App& belt) {
@@ -75,7 +100,9 @@ int RunToolBelt(std::vector<std::string> words) {
   int exit_code = 0;
   AddDrive(belt, exit_code);
   AddPicture(belt);
+  AddRender(belt, exit_code);
   AddNew(belt);
+  AddBench(belt);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);

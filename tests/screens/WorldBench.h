@@ -39,18 +39,9 @@ struct BenchPlatform {
   MemoryFileSystem files{kBase, &faults};
   HeadlessBackend backend{files, faults};
   FakeGraphs graphs;
-  Ports ports{files,
-              backend.clock,
-              backend.timers,
-              backend.random,
-              backend.boxes,
-              backend.gdi,
-              backend.direct_draw,
-              backend.display_modes,
-              graphs,
-              backend.window,
-              backend.forms,
-              backend.system};
+  Ports ports{files,         backend.clock,  backend.timers,      backend.random,
+              backend.boxes, backend.gdi,    backend.direct_draw, backend.display_modes,
+              graphs,        backend.window, backend.forms,       backend.system};
 
   std::string File(const std::string& path) { return files.Get(path).value_or("(none)"); }
 };
@@ -61,10 +52,10 @@ struct WorldBench : BenchPlatform {
     objects.log = &log;
     media.log = &log;
     files.Put("\\info\\tools\\tool.bmp", Filled(1, 1, 0xC8C8C8));
-    for (const char* type : {"hall", "overlay", "button", "doctor", "patient", "tool", "subgame",
-                             "menu", "dialog"}) {
-      factory.Register(type,
-                       [](ObjectWorld& world) { return std::make_shared<ForwardingObject>(world); });
+    for (const char* type :
+         {"hall", "overlay", "button", "doctor", "patient", "tool", "subgame", "menu", "dialog"}) {
+      factory.Register(
+          type, [](ObjectWorld& world) { return std::make_shared<ForwardingObject>(world); });
     }
     InitializeDirectDraw(media, 1);
   }
