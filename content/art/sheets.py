@@ -409,26 +409,31 @@ def dog_sheet():
 
 
 def patient_sheet(draw, looks, well):
-    """The cells of a patient that needs a step for each look; `draw(mood, look, **pose)` is the patient."""
-    sheet = Sheet(256, 300, 6)
+    """The cells of a patient that needs a step for each look; `draw(mood, look, **pose)` is the patient.
+
+    Under the pointer a ring lies below the same frames: a sheet is the largest thing that a room loads.
+    """
+    sheet = Sheet(240, 296, 6)
+
+    def add(name, piece):
+        sheet.add(name, move(piece, -8, 0))
+
     for number, look in enumerate(looks):
         mood, blink = (("sad", "blink"), ("hope", "hopeblink"))[number > 0]
         name = f"step{number}"
-        sheet.add(name + "-1", draw(mood, look, pose=0))
-        sheet.add(name + "-2", draw(mood, look, pose=1, breath=3))
-        sheet.add(name + "-3", draw(blink, look, pose=0, breath=3))
-        sheet.add(name + "-glow1", glowing(draw(mood, look, pose=0), 2))
-        sheet.add(name + "-glow2", glowing(draw(mood, look, pose=1, breath=3), 2))
-        sheet.add(name + "-ow1", draw("ow", look, pose=1))
-        sheet.add(name + "-ow2", move(draw("ow", look, pose=0, breath=3), 3, 0))
-    sheet.add("well-1", draw("happy", well, pose=0))
-    sheet.add("well-2", draw("happy", well, pose=1, breath=2))
-    sheet.add("well-3", draw("joy", well, pose=0, breath=2))
-    sheet.add("well-glow1", glowing(draw("happy", well, pose=0), 2))
-    sheet.add("well-glow2", glowing(draw("happy", well, pose=1, breath=2), 2))
+        add(name + "-1", draw(mood, look, pose=0))
+        add(name + "-2", draw(mood, look, pose=1, breath=3))
+        add(name + "-3", draw(blink, look, pose=0, breath=3))
+        add(name + "-ring", ring(draw(mood, look, pose=0)))
+        add(name + "-ow1", draw("ow", look, pose=1))
+        add(name + "-ow2", move(draw("ow", look, pose=0, breath=3), 3, 0))
+    add("well-1", draw("happy", well, pose=0))
+    add("well-2", draw("happy", well, pose=1, breath=2))
+    add("well-3", draw("joy", well, pose=0, breath=2))
+    add("well-ring", ring(draw("happy", well, pose=0)))
     for i, hop in enumerate((14, 22)):
         hearts = heart(30, 60 - i * 14, 10 + i) + heart(222, 50 - i * 10, 8 + i, PINK) + sparkle(196 - i * 10, 16 + i * 6, 9, YELLOW)
-        sheet.add(f"jump{i + 1}", draw("joy", well, pose=i, hop=hop) + hearts)
+        add(f"jump{i + 1}", draw("joy", well, pose=i, hop=hop) + hearts)
     return sheet
 
 
