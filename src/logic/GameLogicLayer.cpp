@@ -223,12 +223,12 @@ void GameLogicLayer::PlaySound() {
   if (std::exchange(music_paused_, false)) m_ptrMusic->SetPosition(music_position_);
 }
 
-void GameLogicLayer::Autosave() {
+bool GameLogicLayer::Autosave() {
   draws_since_autosave_ = 0;
-  if (m_bGameReset || m_ptrScreenKeeper == nullptr) return;
-  if (!m_ptrScreenKeeper->WriteSnapshot(kAutosave)) {
-    world_.LogGeneral("The autosave could not be written", kWarningLevel);
-  }
+  if (m_bGameReset || m_ptrScreenKeeper == nullptr) return false;
+  if (m_ptrScreenKeeper->WriteSnapshot(kAutosave)) return true;
+  world_.LogGeneral("The autosave could not be written", kWarningLevel);
+  return false;
 }
 
 }  // namespace quendle

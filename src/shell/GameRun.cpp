@@ -56,9 +56,8 @@ void StartUpGame(Globals& globals, SettingsFiles& files, GameHost& host, int win
   const std::string saved_game = autosave.ChooseSavedGame(ended_in_order);
   globals.GameLogic->Initialize(context, saved_game);
   globals.GameLogic->TurnOn();
-  if (AutosaveFiles::IsSetAside(saved_game)) {
-    // The start went well: what it recovered must outlive the next crash, too.
-    globals.GameLogic->Autosave();
+  // The start went well: what it recovered must outlive the next crash, too.
+  if (AutosaveFiles::IsSetAside(saved_game) && globals.GameLogic->Autosave()) {
     autosave.ForgetSetAside();
   }
 }

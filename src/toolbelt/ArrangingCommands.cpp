@@ -23,7 +23,7 @@ const std::vector<std::string>& OperationsThatCanFail() {
       "LoadImageA", "CreateCompatibleDC", "CreateCompatibleBitmap", "CreateMonochromeBitmap",
       "SelectObject", "GetObjectA", "BitBlt", "TransparentBlt",
       // the window and the players
-      "ReplaceWindowProc", "CreateGraph",
+      "ReplaceWindowProc", "CreateGraph", "RenderFile",
       // files
       "read", "makefolder", "open", "write", "writepart", "flush", "rename", "flushfolder",
       "remove", "writeline"};

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "toolbelt/Bench.h"
+#include "toolbelt/BenchTable.h"
 #include "toolbelt/Drive.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/PictureTool.h"
@@ -76,13 +77,27 @@ void AddRender(CLI::App& belt, int& exit_code) {
 }
 
 void AddBench(CLI::App& belt) {
-  CLI::App* tool = belt.add_subcommand("bench", "Measures one workload and prints lines of JSON");
+  CLI::App* tool = belt.add_subcommand(
+      "bench", "Measures the engine: one workload, or a table for a content tree");
   auto workload = std::make_shared<std::string>();
   auto folder = std::make_shared<std::string>(DefaultBenchFolder());
-  tool->add_option("WORKLOAD", *workload, "W1: whole frames; W3: mouse events; others: nothing")
-      ->required();
-  tool->add_option("--data", *folder, "The folder of the inputs")->capture_default_str();
-  tool->callback([workload, folder] { RunBench(*workload, *folder); });
+  auto content = std::make_shared<std::string>();
+  CLI::Option* which = tool->add_option(
+      "WORKLOAD", *workload, "W1: whole frames; W3: mouse events; any other prints nothing");
+  tool->add_option("--data", *folder, "The folder of a workload's inputs")->capture_default_str();
+  tool->add_option("--content", *content, "The content tree of the table")
+      ->check(CLI::ExistingDirectory)
+      ->excludes(which);
+  tool->callback([workload, folder, content] {
+    if (workload->empty() && content->empty()) {
+      throw CLI::RequiredError("WORKLOAD or --content");
+    }
+    if (workload->empty()) {
+      PrintBenchTable(*content);
+    } else {
+      RunBench(*workload, *folder);
+    }
+  });
 }
 
 void AddNew(CLI::App& belt) {

@@ -64,6 +64,15 @@ TEST_F(Music, AGainOfFocusWithoutALossStartsAtTheBeginning) {
   EXPECT_EQ(Graph().position, 0);
 }
 
+TEST_F(Music, ThePlaceIsUsedOnce) {
+  Start();
+  Graph().position = 7.5;
+  logic->PauseSound();
+  logic->PlaySound();
+  logic->PlaySound();
+  EXPECT_EQ(Graph().position, 0);
+}
+
 TEST_F(Music, StoppedMusicStartsAtTheBeginningWhenTheFocusReturns) {
   Start();
   Graph().position = 7.5;

@@ -211,5 +211,29 @@ TEST_F(ScreenChange, ThousandsOfChangesAndLookupsKeepTheGameAlive) {
   for (const TimerInfo& timer : backend.timers.Running()) EXPECT_LT(timer.id, 100);
 }
 
+TEST_F(ScreenChange, TimerIdsAreReusedHoweverOftenAnAnimationStarts) {
+  watch.tracer = nullptr;
+  PutObject(files, {.type = "button",
+                    .name = "blinker",
+                    .width = 10,
+                    .height = 10,
+                    .states = {{.name = "default", .animation = "slow"},
+                               {.name = "other", .animation = "fast"}},
+                    .animations = {{.name = "slow", .interval = 200, .loop = "loop"},
+                                   {.name = "fast", .interval = 100, .loop = "loop"}}});
+  ObjectRef blinker = Make("blinker");
+  blinker->TurnOn();
+  const std::int32_t id = blinker->TimerID();
+  EXPECT_EQ(id, 2);  // behind that of the drawing
+  for (int i = 0; i < 40000; ++i) {
+    blinker->ProcessState(i % 2 == 0 ? "other" : "default");
+    ASSERT_EQ(blinker->TimerID(), id);
+  }
+  EXPECT_EQ(objects.TimedObjects.Count(), 1u);
+  EXPECT_EQ(backend.timers.Running().size(), 2u);
+  blinker->TurnOff();
+  EXPECT_TRUE(objects.TimedObjects.Empty());
+}
+
 }  // namespace
 }  // namespace quendle

@@ -138,6 +138,21 @@ TEST_P(ObjectHit, RegionsCountTheirEdgesAndThoseOfTheFrame) {
   EXPECT_EQ(inner.CurrentRegion(), "whole");
 }
 
+TEST_P(ObjectHit, APointOnTheEdgeOfAFrameIsNotOnItButCanBeInItsRegions) {
+  Door()
+      .Frame("ground", {0, 0, 40, 40})
+      .Frame("part", {0, 0, 10, 10}, "5", "6")
+      .Region("part", "arm", 0, 0, 10, 10)
+      .Animation("still", 9, "loop", {"ground", "part"});
+  TestedObject door = At("door", 0, 0);
+  for (auto [x, y] : {std::pair{5, 10}, {15, 10}, {10, 6}, {10, 16}, {5, 6}, {15, 16}}) {
+    EXPECT_EQ(Region(door, x, y), "arm") << x << "," << y;
+  }
+  for (auto [x, y] : {std::pair{4, 10}, {16, 10}, {10, 5}, {10, 17}}) {
+    EXPECT_EQ(Region(door, x, y), "") << x << "," << y;
+  }
+}
+
 TEST_P(ObjectHit, TheLastRegionAndTheLastFrameWin) {
   Door()
       .Frame("a", {0, 0, 20, 20})
@@ -258,8 +273,9 @@ TEST_F(ObjectEvents, ChildrenGetTheUnchangedActionAtTheirOwnCoordinates) {
   Noter("hall", 100, 100).Child("a", "xpos_10 ypos_10").Child("b", "xpos_40 ypos_10");
   TestedObject hall = bench_.LoadOn("hall");
   hall->Setxpos(100);
-  EXPECT_EQ(Event(hall, 115, 15), (Lines{"hall-hit", "a-hit", "b-not"}));
-  EXPECT_EQ(Event(hall, 145, 15), (Lines{"hall-hit", "a-not", "b-hit"}));
+  hall->Setypos(200);
+  EXPECT_EQ(Event(hall, 115, 215), (Lines{"hall-hit", "a-hit", "b-not"}));
+  EXPECT_EQ(Event(hall, 145, 215), (Lines{"hall-hit", "a-not", "b-hit"}));
   EXPECT_EQ(Event(hall, 15, 15), (Lines{"hall-not", "a-not", "b-not"}));
 }
 

@@ -183,6 +183,15 @@ TEST_F(SavedGameTest, ASnapshotWritesWhatSavingWouldAndLeavesTheKeeperAlone) {
   EXPECT_EQ(File("\\autosave.txt"), "begin\r\n" + Record("a", "better1") + Record("b") + "end\r\n");
 }
 
+TEST_F(SavedGameTest, ASnapshotHoldsScreensThatAreNotLiveAsWell) {
+  Screens({{"hall", "a"}});
+  files.Put("\\userdata.txt", "begin\n" + Record("z", "better1") + "end\n");
+  keeper.LoadGame("userdata.txt");
+  keeper.GetScreen("a");
+  EXPECT_TRUE(keeper.WriteSnapshot("autosave.txt"));
+  EXPECT_EQ(File("\\autosave.txt"), "begin\r\n" + Record("z", "better1") + Record("a") + "end\r\n");
+}
+
 TEST_F(SavedGameTest, AFailedSnapshotSaysSoAndLeavesTheOldOne) {
   Screens({{"hall", "a"}});
   keeper.GetScreen("a");

@@ -163,6 +163,19 @@ TEST_F(Autosave, ACrashSoonAfterARecoveredStartLosesNothingThatWasRecovered) {
   EXPECT_EQ(Child(next.Logic()->CurrentScreen(), "dog")->CurrentState(), "won");
 }
 
+TEST_F(Autosave, OneThatWasRecoveredIsKeptAsideWhenNoNewOneCanBeWritten) {
+  files.Put("\\GameMode.txt", "Safe\n");
+  LastRunCrashed();
+  files.Put("\\autosave.txt", SavedDog("won"));
+  application.Start();
+  // Written on the way: three options, the mark, eight scripts, the log, the copy; then the disk is
+  // full.
+  faults.Plan("rename", 14, 0, false);
+  EXPECT_EQ(Press(1), Status::kRunning) << application.Fault().box_text;
+  EXPECT_EQ(Text(), kNone);
+  EXPECT_EQ(File("\\autosave-tried.txt"), SavedDog("won"));
+}
+
 TEST_F(Autosave, OneThatAStartHasFailedOnIsSetAsideAndNotTriedAgain) {
   files.Put("\\GameMode.txt", "Safe\n");
   LastRunCrashed();

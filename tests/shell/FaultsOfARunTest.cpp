@@ -87,6 +87,42 @@ TEST_F(FaultsOfARun, TheDisplayIsGivenBackAndNothingOfTheRunActsAnyMore) {
   EXPECT_EQ(Boxes().size(), 1u);
 }
 
+// A box whose message loop fires the timers itself.
+class TickingBoxes : public Boxes {
+ public:
+  explicit TickingBoxes(HeadlessBackend& backend) : backend_(backend) {}
+  void MessageBox(const std::string&, const std::string&) override {
+    backend_.Tick(Milliseconds(500), [](const std::function<void()>& work) {
+      work();
+      return true;
+    });
+  }
+  bool YesNoBox(const std::string&, const std::string&) override { return true; }
+  std::string InputBox(const std::string&, const std::string&) override { return ""; }
+  std::string ChooseFile(const std::string&) override { return ""; }
+
+ private:
+  HeadlessBackend& backend_;
+};
+
+TEST(FaultBox, NothingIsDrawnWhileTheBoxOfAFaultStands) {
+  BenchPlatform platform;
+  HeadlessBackend& backend = platform.backend;
+  TickingBoxes boxes(backend);
+  PutSmallClinic(platform.files);
+  platform.files.Put("\\DialogMode.txt", "On\n");
+  Ports ports{platform.files,  backend.clock,  backend.timers,      backend.random,
+              boxes,           backend.gdi,    backend.direct_draw, backend.display_modes,
+              platform.graphs, backend.window, backend.forms,       backend.system};
+  Application application(ports, 2, kBase);
+  application.Start();
+  application.Deliver([&] { backend.forms.Press("Picture1", 1); });
+  ASSERT_EQ(application.GetStatus(), Status::kRunning);
+  EXPECT_EQ(application.Deliver([] { throw FatalError("fault"); }), Status::kFailed);
+  EXPECT_EQ(application.Game()->GameLogic->FrameCounter(), 0);
+  EXPECT_GT(application.Game()->objects.gated_ticks, 0);
+}
+
 TEST_F(FaultsOfARun, AMissingFileShowsExactlyItsBox) {
   files.Remove("C:\\game\\Info\\dog\\data.txt");
   Play();

@@ -214,7 +214,7 @@ TEST(HeadlessSystem, AnswersWhatItWasToldAndNotesWhatItWasAsked) {
   EXPECT_TRUE(system.TakeOpened().empty());
 }
 
-TEST(HeadlessFilterGraphs, EverySoundIsSilence) {
+TEST(HeadlessFilterGraphs, AMissingFileAndAFailedPlayerAreSilence) {
   Bench bench;
   auto graph = bench.backend.filter_graphs.Create();
   ASSERT_NE(graph, nullptr);
