@@ -198,19 +198,22 @@ def bookscreen():
     out += flat("M340,49C364,52 386,56 400,62C414,56 436,52 460,49V455C436,460 414,464 400,472C386,464 364,460 340,455Z", "url(#gutter)") + stroke("M400,62V472")
     for dx in (7, 13):
         out += stroke(f"M{76},{462 + dx}C160,{443 + dx} 330,{441 + dx} 400,{468 + dx}C470,{441 + dx} 640,{443 + dx} 724,{462 + dx}", shade(CREAM, 0.3), 3)
-    for y, tool, paw, mood in ((52, antiseptic, "clean", "hope"), (258, bandaid, "bandaid", "joy")):
-        left_paw = "cut" if tool is antiseptic else "clean"
-        left_mood = "sad" if tool is antiseptic else "hope"
-        out += move(dog(left_mood, left_paw), 78, y + 8, size=0.6)
-        out += cross_plus(252, y + 106) + tool(316, y + 106, 1.15)
-        out += arrow(416, y + 106, 0.8, fill=YELLOW)
-        out += move(dog(mood, paw, 1), 496, y + 8, size=0.6)
-    out += heart(668, 304, 15) + heart(690, 346, 10, PINK) + sparkle(668, 96, 16) + sparkle(690, 140, 11)
+    rows = (
+        (dog("sad", "cut"), (antiseptic, bandaid), dog("joy", "bandaid", 1)),
+        (cat("sad", "muddy"), (soap, fleapowder, fleacollar), cat("joy", "collar", 1)),
+        (rabbit("sad", "cold"), (water, grapes, antibiotic), rabbit("joy", "well")),
+    )
+    for row, (ill, cure, well) in enumerate(rows):
+        y = 56 + row * 134
+        if row:
+            out += stroke(f"M204,{y}H366M434,{y}H570", shade(CREAM, 0.25), 3)
+        out += move(ill, 84, y, size=0.45)
+        for tool, x in zip(cure, (250, 346, 454)):
+            out += tool(x, y + 68, 0.88 if tool is fleacollar else 1.0)
+            if x > 250:
+                out += arrow(x - 48 if x < 400 else 400, y + 68, 0.42, fill=YELLOW)
+        out += arrow(532 if len(cure) == 3 else 474, y + 68, 0.8, fill=YELLOW) + move(well, 582, y, size=0.45) + heart(712, y + 40, 11, PINK)
     return screen(out)
-
-
-def cross_plus(cx, cy):
-    return solid(cross_path(cx, cy, 17, 0.34), GREEN, 3)
 
 
 # --- sprites --------------------------------------------------------------------------------------
