@@ -31,7 +31,8 @@ foreach(sound IN LISTS sounds)
   list(GET sound 0 kind)
   list(GET sound 1 name)
   set(wav ${sound_work}/${kind}/${name}.wav)
-  set(rate 48k)
+  # The encoder loses its first frame and harms the end: both are padded by a frame.
+  set(filter adelay=delays=1024S:all=1,apad=pad_len=1024)
   if(kind STREQUAL "speech")
     set(folder Info/Doctor/voice)
     # A sentence of its own file: changing one line of the captions speaks that line alone again.
@@ -52,7 +53,8 @@ foreach(sound IN LISTS sounds)
     set(sources ${sound_dir}/make.py ${sound_dir}/wave_file.py ${sound_dir}/effects.py)
   else()
     set(folder Info)
-    set(rate 64k)
+    # The player keeps a whole sound as samples, and the tune is by far the longest.
+    set(filter aresample=16000,adelay=delays=512S:all=1,apad=pad_len=512)
     set(make_wav COMMAND ${make_sound} tune ${wav})
     set(sources ${sound_dir}/make.py ${sound_dir}/wave_file.py ${sound_dir}/tune.py)
   endif()
@@ -60,9 +62,8 @@ foreach(sound IN LISTS sounds)
   file(MAKE_DIRECTORY ${sound_work}/${kind} ${QUENDLE_CONTENT_DIR}/${folder})
   add_custom_command(OUTPUT ${wav} ${make_wav} DEPENDS ${sources} COMMENT "Sounding ${name}" VERBATIM)
   if(FFMPEG)
-    # The encoder loses its first frame, of 1024 samples at this rate, and harms the end: pad both.
     set(encode ${FFMPEG} -hide_banner -nostdin -loglevel error -y -i ${wav}
-        -af adelay=delays=1024S:all=1,apad=pad_len=1024 -c:a wmav2 -b:a ${rate}
+        -af ${filter} -c:a wmav2 -b:a 48k
         -map_metadata -1 -fflags +bitexact -flags:a +bitexact ${wma})
   else()
     set(encode ${CMAKE_COMMAND} -E copy ${wav} ${wma})

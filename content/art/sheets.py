@@ -198,19 +198,22 @@ def bookscreen():
     out += flat("M340,49C364,52 386,56 400,62C414,56 436,52 460,49V455C436,460 414,464 400,472C386,464 364,460 340,455Z", "url(#gutter)") + stroke("M400,62V472")
     for dx in (7, 13):
         out += stroke(f"M{76},{462 + dx}C160,{443 + dx} 330,{441 + dx} 400,{468 + dx}C470,{441 + dx} 640,{443 + dx} 724,{462 + dx}", shade(CREAM, 0.3), 3)
-    for y, tool, paw, mood in ((52, antiseptic, "clean", "hope"), (258, bandaid, "bandaid", "joy")):
-        left_paw = "cut" if tool is antiseptic else "clean"
-        left_mood = "sad" if tool is antiseptic else "hope"
-        out += move(dog(left_mood, left_paw), 78, y + 8, size=0.6)
-        out += cross_plus(252, y + 106) + tool(316, y + 106, 1.15)
-        out += arrow(416, y + 106, 0.8, fill=YELLOW)
-        out += move(dog(mood, paw, 1), 496, y + 8, size=0.6)
-    out += heart(668, 304, 15) + heart(690, 346, 10, PINK) + sparkle(668, 96, 16) + sparkle(690, 140, 11)
+    rows = (
+        (dog("sad", "cut"), (antiseptic, bandaid), dog("joy", "bandaid", 1)),
+        (cat("sad", "muddy"), (soap, fleapowder, fleacollar), cat("joy", "collar", 1)),
+        (rabbit("sad", "cold"), (water, grapes, antibiotic), rabbit("joy", "well")),
+    )
+    for row, (ill, cure, well) in enumerate(rows):
+        y = 56 + row * 134
+        if row:
+            out += stroke(f"M204,{y}H366M434,{y}H570", shade(CREAM, 0.25), 3)
+        out += move(ill, 84, y, size=0.45)
+        for tool, x in zip(cure, (250, 346, 454)):
+            out += tool(x, y + 68, 0.88 if tool is fleacollar else 1.0)
+            if x > 250:
+                out += arrow(x - 48 if x < 400 else 400, y + 68, 0.42, fill=YELLOW)
+        out += arrow(532 if len(cure) == 3 else 474, y + 68, 0.8, fill=YELLOW) + move(well, 582, y, size=0.45) + heart(712, y + 40, 11, PINK)
     return screen(out)
-
-
-def cross_plus(cx, cy):
-    return solid(cross_path(cx, cy, 17, 0.34), GREEN, 3)
 
 
 # --- sprites --------------------------------------------------------------------------------------
@@ -409,26 +412,31 @@ def dog_sheet():
 
 
 def patient_sheet(draw, looks, well):
-    """The cells of a patient that needs a step for each look; `draw(mood, look, **pose)` is the patient."""
-    sheet = Sheet(256, 300, 6)
+    """The cells of a patient that needs a step for each look; `draw(mood, look, **pose)` is the patient.
+
+    Under the pointer a ring lies below the same frames: a sheet is the largest thing that a room loads.
+    """
+    sheet = Sheet(240, 296, 6)
+
+    def add(name, piece):
+        sheet.add(name, move(piece, -8, 0))
+
     for number, look in enumerate(looks):
         mood, blink = (("sad", "blink"), ("hope", "hopeblink"))[number > 0]
         name = f"step{number}"
-        sheet.add(name + "-1", draw(mood, look, pose=0))
-        sheet.add(name + "-2", draw(mood, look, pose=1, breath=3))
-        sheet.add(name + "-3", draw(blink, look, pose=0, breath=3))
-        sheet.add(name + "-glow1", glowing(draw(mood, look, pose=0), 2))
-        sheet.add(name + "-glow2", glowing(draw(mood, look, pose=1, breath=3), 2))
-        sheet.add(name + "-ow1", draw("ow", look, pose=1))
-        sheet.add(name + "-ow2", move(draw("ow", look, pose=0, breath=3), 3, 0))
-    sheet.add("well-1", draw("happy", well, pose=0))
-    sheet.add("well-2", draw("happy", well, pose=1, breath=2))
-    sheet.add("well-3", draw("joy", well, pose=0, breath=2))
-    sheet.add("well-glow1", glowing(draw("happy", well, pose=0), 2))
-    sheet.add("well-glow2", glowing(draw("happy", well, pose=1, breath=2), 2))
+        add(name + "-1", draw(mood, look, pose=0))
+        add(name + "-2", draw(mood, look, pose=1, breath=3))
+        add(name + "-3", draw(blink, look, pose=0, breath=3))
+        add(name + "-ring", ring(draw(mood, look, pose=0)))
+        add(name + "-ow1", draw("ow", look, pose=1))
+        add(name + "-ow2", move(draw("ow", look, pose=0, breath=3), 3, 0))
+    add("well-1", draw("happy", well, pose=0))
+    add("well-2", draw("happy", well, pose=1, breath=2))
+    add("well-3", draw("joy", well, pose=0, breath=2))
+    add("well-ring", ring(draw("happy", well, pose=0)))
     for i, hop in enumerate((14, 22)):
         hearts = heart(30, 60 - i * 14, 10 + i) + heart(222, 50 - i * 10, 8 + i, PINK) + sparkle(196 - i * 10, 16 + i * 6, 9, YELLOW)
-        sheet.add(f"jump{i + 1}", draw("joy", well, pose=i, hop=hop) + hearts)
+        add(f"jump{i + 1}", draw("joy", well, pose=i, hop=hop) + hearts)
     return sheet
 
 
