@@ -84,8 +84,8 @@ std::string FatalOf(Work&& work) {
 
 struct SubgameBench {
   // `area_type` is the type word of the play area, `header` the sixth line of its data file.
-  explicit SubgameBench(std::string area_type, std::string header)
-      : area_type_(std::move(area_type)), header_(std::move(header)) {
+  SubgameBench(std::string area_type, std::string header, std::uint64_t seed = 1)
+      : backend(files, faults, seed), area_type_(std::move(area_type)), header_(std::move(header)) {
     media.UseDirectX = false;
     Register<ScreenObject>("hall");
     Register<ButtonObject>("button");
@@ -157,6 +157,16 @@ struct SubgameBench {
       children.push_back("\\info\\" + name + ".txt");
     }
     PutObject("game", "subgame", children);
+  }
+
+  // A button at the top left corner that sends these messages to the screen when it is clicked.
+  void PutButton(const std::string& name, const Lines& messages) {
+    Lines script{"begin", "if action = handmouseclick"};
+    for (const std::string& message : messages) script.push_back("mtp " + message);
+    script.insert(script.end(), {"endif", "end"});
+    PutCell(name + "_button", 60, 30, {"default"}, false, Text(script));
+    files.Put("\\info\\" + name + ".txt", Text({"button", name, "0", "0", "0", "0",
+                                                "\\info\\" + name + "_button.txt", "nothing", ""}));
   }
 
   // The game's screen, off, below a top that notes.
@@ -265,7 +275,7 @@ struct SubgameBench {
 
   Faults faults;
   MemoryFileSystem files{"", &faults};
-  HeadlessBackend backend{files, faults};
+  HeadlessBackend backend;
   Settings settings;
   ContentFiles content{files, settings};
   Watch watch;
@@ -285,8 +295,9 @@ struct SubgameBench {
 };
 
 struct SquareBench : SubgameBench {
-  SquareBench(const std::string& limit = "120", const Lines& size = {"3", "100", "200", "50"})
-      : SubgameBench("playareasquare", "\\info\\board.txt") {
+  explicit SquareBench(const std::string& limit = "120",
+                       const Lines& size = {"3", "100", "200", "50"}, std::uint64_t seed = 1)
+      : SubgameBench("playareasquare", "\\info\\board.txt", seed) {
     Lines lines{"\\info\\tile.txt", limit};
     lines.insert(lines.end(), size.begin(), size.end());
     Lines states;
@@ -304,8 +315,8 @@ struct SquareBench : SubgameBench {
 };
 
 struct ShooterBench : SubgameBench {
-  explicit ShooterBench(const std::string& points = "100 40 300 40 *")
-      : SubgameBench("playareashooter", "\\info\\header.txt") {
+  explicit ShooterBench(const std::string& points = "100 40 300 40 *", std::uint64_t seed = 1)
+      : SubgameBench("playareashooter", "\\info\\header.txt", seed) {
     files.Put("\\info\\header.txt", Text({"text", "7", "1", "\\info\\cells.txt", "", ""}));
     files.Put("\\info\\cells.txt",
               Text({"\\info\\player.txt", "\\info\\enemy.txt", "\\info\\shot.txt"}));
@@ -319,7 +330,8 @@ struct ShooterBench : SubgameBench {
 };
 
 struct BlinkerBench : SubgameBench {
-  BlinkerBench() : SubgameBench("playareablinker", "\\info\\header.txt") {
+  explicit BlinkerBench(std::uint64_t seed = 1)
+      : SubgameBench("playareablinker", "\\info\\header.txt", seed) {
     files.Put("\\info\\header.txt", Text({"text", "7", "1", "nothing", "", ""}));
     for (const char* name : {"game\\cell1data", "game\\cell2data", "game\\cell3data",
                              "game\\cell4data", "game\\cell5data"}) {
@@ -334,7 +346,8 @@ struct BlinkerBench : SubgameBench {
 };
 
 struct BobblerBench : SubgameBench {
-  BobblerBench() : SubgameBench("playareabobbler", "\\info\\header.txt") {
+  explicit BobblerBench(std::uint64_t seed = 1)
+      : SubgameBench("playareabobbler", "\\info\\header.txt", seed) {
     files.Put("\\info\\header.txt", Text({"text", "7", "1", "nothing", "", ""}));
     for (const char* name :
          {"game\\gooddata", "game\\cell1data", "game\\cell2data", "game\\cell3data",
