@@ -50,7 +50,9 @@ struct BenchPlatform {
               graphs,
               backend.window,
               backend.forms,
-              backend.system};
+              backend.system,
+              backend.picture_loader,
+              backend.picture_saver};
 
   std::string File(const std::string& path) { return files.Get(path).value_or("(none)"); }
 };
