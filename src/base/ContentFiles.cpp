@@ -1,5 +1,6 @@
 #include "base/ContentFiles.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -77,7 +78,7 @@ void ContentFiles::CopyFile(const std::string& from, const std::string& to) cons
 
 std::string ContentFiles::DisplayName(std::string_view path) const {
   std::string name = SF_remove(path, settings_.BaseDirectory);
-  return name.starts_with('\\') ? name.substr(1) : name;
+  return name.substr(std::min(name.find_first_not_of('\\'), name.size()));
 }
 
 const std::string& ContentFiles::BaseDirectory() const { return settings_.BaseDirectory; }

@@ -44,6 +44,8 @@ class KeyedList {
   // By index from 1. An index outside the list is fatal.
   T& Item(std::size_t index) { return entries_[Checked(index)].value; }
   const T& Item(std::size_t index) const { return entries_[Checked(index)].value; }
+  // By position from 0, for walks that have looked at Count.
+  const T& At(std::size_t position) const { return entries_[position].value; }
   const std::string& KeyOf(std::size_t index) const { return entries_[Checked(index)].key; }
 
   // By key; the last match wins, nothing without one.

@@ -35,16 +35,16 @@ void DepthGuard::Refuse() {
 
 void DepthGuard::Note() noexcept {
   try {
-    // The innermost message or script line names the fault best; loads and walks only give the
-    // object until such a level is reached.
+    // Each is taken from the innermost level that knows it: a message that the rules refuse still
+    // leads to the object that it passed, and to the script line that sent it.
     if (place_ != nullptr && depth_.failed_object_.empty()) {
       depth_.failed_object_ = place_->WorkPath();
     }
-    if (work_ == Work::kMessage || work_ == Work::kScript) {
-      depth_.failed_text_ = text_;
-      if (origin_ != nullptr) depth_.failed_place_ = *origin_;
-      depth_.noted_ = true;
-    }
+    const bool says = work_ == Work::kMessage || work_ == Work::kScript;
+    if (says && depth_.failed_text_.empty()) depth_.failed_text_ = text_;
+    if (origin_ != nullptr && depth_.failed_place_.file.empty()) depth_.failed_place_ = *origin_;
+    depth_.noted_ = !depth_.failed_object_.empty() && !depth_.failed_text_.empty() &&
+                    !depth_.failed_place_.file.empty();
   } catch (...) {
     depth_.noted_ = true;  // no memory to describe the fault: its own text must do
   }

@@ -28,7 +28,7 @@ class WorkDepth {
   // What was in work when the last exception passed: object path, and message or script line.
   const std::string& FailedObject() const { return failed_object_; }
   const std::string& FailedText() const { return failed_text_; }
-  // Where that script line stands; no file for a message.
+  // Where that script line stands, or the one that sent the message; no file without one.
   const FilePlace& FailedPlace() const { return failed_place_; }
   void ForgetFailure();
 

@@ -12,7 +12,7 @@
 #include "media/SoundState.h"
 #include "platform/Ports.h"
 #include "platform/TimerService.h"
-#include "script/ActionText.h"
+#include "script/ScriptWorld.h"
 
 namespace quendle {
 namespace {
@@ -98,6 +98,8 @@ ObjectRef GameLogicLayer::RequireScreen(const std::string& name) {
 void GameLogicLayer::TurnOff() {
   KillDrawTimer();
   host_.ShowPointer(true);
+  // A start that was broken off has nothing to save, and must not overwrite what is there.
+  if (m_ptrScreenKeeper == nullptr) return;
   if (!m_bGameReset) m_ptrScreenKeeper->SaveGame(kSavedGame);
   WriteHelpMemory();
   const ContentFiles& files = world_.media.content;
@@ -141,7 +143,7 @@ void GameLogicLayer::DropBackBuffer() {
 
 void GameLogicLayer::MapMouseClick(std::int16_t x, std::int16_t y) {
   PlaceAt(m_ptrCursorObject, x, y, kPointerOffset);
-  const ActionText action(m_strCurrentCursor + "mouseclick");
+  const ActionText& action = world_.scripts.actions.Get(m_strCurrentCursor + "mouseclick");
   UpdateUpperLayers(x, y, action);
   if (!m_bSkipNextClick) {
     ObjectRef screen = m_ptrCurrentScreen;
@@ -154,7 +156,7 @@ void GameLogicLayer::MapMouseClick(std::int16_t x, std::int16_t y) {
 void GameLogicLayer::MapMouseCoords(std::int16_t x, std::int16_t y) {
   if (world_.media.settings.PersonalizeOn) PlaceAt(m_ptrPersonCursor, x, y, kPersonOffset);
   PlaceAt(m_ptrCursorObject, x, y, kPointerOffset);
-  const ActionText action(m_strCurrentCursor + "mouseover");
+  const ActionText& action = world_.scripts.actions.Get(m_strCurrentCursor + "mouseover");
   UpdateUpperLayers(x, y, action);
   if (m_ptrCurrentScreen != nullptr) {
     ObjectRef(m_ptrCurrentScreen)->UpdateGameObject(x, y, action);
@@ -221,12 +223,12 @@ void GameLogicLayer::PlaySound() {
   if (std::exchange(music_paused_, false)) m_ptrMusic->SetPosition(music_position_);
 }
 
-void GameLogicLayer::Autosave() {
+bool GameLogicLayer::Autosave() {
   draws_since_autosave_ = 0;
-  if (m_bGameReset || m_ptrScreenKeeper == nullptr) return;
-  if (!m_ptrScreenKeeper->WriteSnapshot(kAutosave)) {
-    world_.LogGeneral("The autosave could not be written", kWarningLevel);
-  }
+  if (m_bGameReset || m_ptrScreenKeeper == nullptr) return false;
+  if (m_ptrScreenKeeper->WriteSnapshot(kAutosave)) return true;
+  world_.LogGeneral("The autosave could not be written", kWarningLevel);
+  return false;
 }
 
 }  // namespace quendle

@@ -60,8 +60,9 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   // The focus is lost or found: the music pauses, and goes on where it was.
   void PauseSound();
   void PlaySound();
-  // Keeps what play has changed in "autosave.txt"; a failure is logged only.
-  void Autosave();
+  // Keeps what play has changed in "autosave.txt". False when none was written; a failure is
+  // logged.
+  bool Autosave();
 
   const std::string& ObjectType() const { return ObjectType_; }
   void SetObjectType(std::string type) { ObjectType_ = std::move(type); }

@@ -35,8 +35,9 @@ bool HoldsAny(const std::string& message, std::initializer_list<std::string_view
 }  // namespace
 
 void ScreenObject::LoadObject(const LoadArguments& arguments) {
-  m_bIsToolBar = EqualsNoCase(arguments.name, "tools");
+  // Known only behind the load: nothing is arranged before the bar is turned on.
   ForwardingObject::LoadObject(arguments);
+  m_bIsToolBar = IsNamedTools();
 }
 
 void ScreenObject::AddChildObject(ObjectRef child) {

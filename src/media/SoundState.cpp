@@ -3,13 +3,17 @@
 #include <utility>
 
 #include "base/ContentFiles.h"
+#include "base/EventSink.h"
 #include "base/Text.h"
 #include "media/DShowObj.h"
 #include "media/MediaWorld.h"
+#include "platform/FilterGraph.h"
 #include "platform/Ports.h"
 
 namespace quendle {
 namespace {
+
+constexpr int kLogLevel = 1;
 
 // Every occurrence, also in the name of a folder.
 std::string PlayedPath(std::string path) {
@@ -45,7 +49,7 @@ void SoundState::SetPosition(double seconds) {
 void SoundState::LoadSound() {
   if (!has_parent_ && (loaded_ || !file_found_)) return;
   loaded_ = true;
-  if (DShowObj* player = Player()) player->Initialize(sound_);
+  if (DShowObj* player = Player()) GetReady(*player);
 }
 
 void SoundState::SetLoopState(std::string_view word) { loop_ = EqualsNoCase(word, "loop"); }
@@ -83,7 +87,18 @@ void SoundState::Initialize(const std::string& path, bool preload) {
   file_found_ = own_player_ != nullptr;
   if (!file_found_ || !preload) return;
   loaded_ = true;
-  own_player_->Initialize(sound_);
+  GetReady(*own_player_);
+}
+
+void SoundState::GetReady(DShowObj& player) {
+  player.Initialize(sound_);
+  if (world_.log == nullptr) return;  // problems are kept until there is one
+  for (std::string& problem : world_.ports.filter_graphs.TakeProblems()) {
+    if (const std::size_t at = problem.find(sound_); !sound_.empty() && at != std::string::npos) {
+      problem.replace(at, sound_.size(), world_.content.DisplayName(sound_));
+    }
+    world_.log->LogEvent(problem, kLogLevel, "general");
+  }
 }
 
 DShowObj* SoundState::Player() const {

@@ -59,6 +59,8 @@ class SoundState {
  private:
   // The player for an operation; null when the sound is silent.
   DShowObj* FoundPlayer() const { return file_found_ ? Player() : nullptr; }
+  // Gives the file to the player and logs why something can't be heard.
+  void GetReady(DShowObj& player);
 
   MediaWorld& world_;
   std::string name_;

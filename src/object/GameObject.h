@@ -213,12 +213,27 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
 
   ObjectWorld& world_;
 
-  // Constant after the load, until Release.
+  // Looked at on every event, and so side by side in memory.
   GameObjectInterface* SelfReference_ = nullptr;  // owns this object, or null before the load
-  std::weak_ptr<GameObjectInterface> self_;       // the same, for those who keep it
+  std::shared_ptr<ScriptState> current_script_;   // of the current state; null for "nothing"
+  std::unique_ptr<ObjectPicture> picture_;        // constant after the load, until Release
+  std::vector<FrameRef> CurrentFrames_;
+  std::int16_t xpos_ = 0;
+  std::int16_t ypos_ = 0;
+  std::int16_t height_ = -1;
+  std::int16_t width_ = 0;
+  bool Visible_ = true;
+  bool ObjectOn_ = false;
+  bool releasing_ = false;
+  ObjectList Children_{"child"};
+  std::weak_ptr<MessageTarget> Parent_;
+  std::string ObjectName_;
+  std::string CurrentRegion_;
+
+  // Constant after the load, until Release.
+  std::weak_ptr<GameObjectInterface> self_;  // SelfReference_, for those who keep it
   std::string ObjDirectory_;
   std::string depth_;
-  std::unique_ptr<ObjectPicture> picture_;
   std::string PictureName_;
   ContextHandle DrawingSurface_ = 0;
   KeyedList<std::shared_ptr<AnimationState>> Animations_{"animation"};
@@ -230,30 +245,17 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   std::unique_ptr<DShowObj> player_;
 
   // Changes in play.
-  std::string ObjectName_;
   std::string ObjectType_;
-  std::weak_ptr<MessageTarget> Parent_;
-  ObjectList Children_{"child"};
   std::shared_ptr<ObjState> m_ptrCurrObjState;
-  std::shared_ptr<ScriptState> current_script_;  // of the current state; null for "nothing"
   std::vector<std::string> StateHistory_;
-  std::int16_t xpos_ = 0;
-  std::int16_t ypos_ = 0;
-  std::int16_t height_ = -1;
-  std::int16_t width_ = 0;
-  bool Visible_ = true;
-  bool releasing_ = false;
 
   // Changes while on.
-  bool ObjectOn_ = false;
   std::int32_t TimerID_ = 0;
   std::string CurrentAnimationName_;
-  std::vector<FrameRef> CurrentFrames_;
   std::int32_t CurrentTextureXCoord_ = -1;
   std::int32_t CurrentTextureYCoord_ = 0;
   std::string previous_sound_name_ = "nothing";
   std::string CurrentSoundName_;
-  std::string CurrentRegion_;
 };
 
 }  // namespace quendle

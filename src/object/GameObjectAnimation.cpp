@@ -62,8 +62,9 @@ void GameObject::SetCurrentFrames(const std::vector<std::string>& names) {
     FrameRef frame = QueryFrameState(name);
     if (frame == nullptr) {
       throw FatalError("animation \"" + CurrentAnimationName_ + "\" of object \"" + WorkPath() +
-                       "\" shows the frame \"" + name + "\", which isn't there" +
-                       DidYouMean(name, Frames_.Keys()));
+                           "\" shows the frame \"" + name + "\", which isn't there" +
+                           DidYouMean(name, Frames_.Keys()),
+                       StatePlace());
     }
     frames.push_back(std::move(frame));
   }

@@ -41,6 +41,8 @@ struct LoadArguments {
   std::weak_ptr<GameObjectInterface> outer;
   std::string directives;
   ContextHandle context = 0;
+  // Beside the eleven: the object file itself, full path. A play area reads on in it.
+  std::string object_file;
 };
 
 // The 65 operations that everything seen or clicked in the game presents. Coordinates are pixels

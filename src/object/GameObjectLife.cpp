@@ -25,12 +25,10 @@ bool Holds(GameObjectInterface& tree, const GameObjectInterface* wanted) {
 }
 
 // A coordinate of the parent as seen by a child.
-std::int16_t Relative(int coordinate, int origin) {
-  int relative = coordinate - origin;
-  if (relative < INT16_MIN || relative > INT16_MAX) {
-    return ToInt16(relative, "a coordinate relative to an object");
-  }
-  return static_cast<std::int16_t>(relative);
+inline std::int16_t Relative(int coordinate, int origin) {
+  const int relative = coordinate - origin;
+  const auto narrow = static_cast<std::int16_t>(relative);
+  return narrow == relative ? narrow : ToInt16(relative, "a coordinate relative to an object");
 }
 
 }  // namespace
@@ -88,8 +86,9 @@ void GameObject::UpdateGameObject(std::int16_t x, std::int16_t y, const ActionTe
   }
   if (Children_.Empty()) return;
   DepthGuard guard(world_.watch.depth, Work::kTreeWalk, ObjectName_, this);
-  for (std::size_t i = 1; i <= Children_.Count(); ++i) {
-    ObjectRef child = Children_.Item(i);
+  for (std::size_t i = 0; i < Children_.Count(); ++i) {
+    // A strong copy: what the child does may remove it from here.
+    const ObjectRef child = Children_.At(i);
     if (child->Visible()) {
       child->UpdateGameObject(Relative(x, xpos_), Relative(y, ypos_), action);
     }
@@ -167,6 +166,9 @@ void GameObject::Release(bool forced) {
   CurrentFrames_.clear();
   StateHistory_.clear();
   player_.reset();
+  // With the sounds go their names: what is turned off later stops none.
+  previous_sound_name_ = "nothing";
+  CurrentSoundName_.clear();
   releasing_ = false;
 }
 

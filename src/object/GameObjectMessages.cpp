@@ -4,7 +4,7 @@
 #include "base/Watch.h"
 #include "base/Words.h"
 #include "object/GameObject.h"
-#include "script/ActionText.h"
+#include "script/ScriptWorld.h"
 
 namespace quendle {
 namespace {
@@ -124,7 +124,7 @@ void GameObject::UserAction(MessageCall& call) {
   if (call.verifying) {
     call.result = call.words.Count() >= 2;
   } else {
-    UpdateGameObject(-1, -1, ActionText(call.words[2]));
+    UpdateGameObject(-1, -1, world_.scripts.actions.Get(call.words[2]));
   }
 }
 

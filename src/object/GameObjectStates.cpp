@@ -33,7 +33,8 @@ std::string GameObject::ProcessState(const std::string& name) {
     previous_sound_name_ = m_ptrCurrObjState->SoundState();
   }
   m_ptrCurrObjState = state;
-  current_script_ = FindOrNull(Scripts_, state->ScriptState());
+  const std::string& script = state->ScriptState();
+  current_script_ = EqualsNoCase(script, kNothing) ? nullptr : FindOrNull(Scripts_, script);
   if (ObjectOn_) {
     RunSoundOfState(state->SoundState());
     RunAnimation(state->AnimationState());

@@ -54,6 +54,7 @@ ObjectRef CreateGameObject(ObjectWorld& world, const std::string& path, ContextH
   arguments.outer = object;
   arguments.directives = file.directives;
   arguments.context = context;
+  arguments.object_file = path;
   object->LoadObject(arguments);
   return object;
 }

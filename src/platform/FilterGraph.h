@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace quendle {
 
@@ -22,7 +23,8 @@ class FilterGraph {
   virtual void Pause() = 0;
   virtual void Stop() = 0;
 
-  // Media position: seconds, and speed with 1.0 as normal.
+  // Media position: seconds of the sound at normal speed, whatever the speed is, and that speed
+  // with 1.0 as normal. The duration never changes.
   virtual double Duration() = 0;
   virtual double Position() = 0;
   virtual void SetPosition(double seconds) = 0;
@@ -35,7 +37,8 @@ class FilterGraph {
   virtual std::int32_t Balance() = 0;
   virtual void SetBalance(std::int32_t balance) = 0;
 
-  // Media event: waits up to `timeout` milliseconds; nonzero means that playback completed.
+  // Media event: waits up to `timeout` milliseconds (not at all where time is virtual); nonzero
+  // means that playback completed, 0 that it didn't yet.
   virtual long WaitForCompletion(long timeout) = 0;
 };
 
@@ -45,6 +48,8 @@ class FilterGraphs {
   virtual ~FilterGraphs() = default;
   // A new empty graph; nothing on failure.
   virtual std::unique_ptr<FilterGraph> Create() = 0;
+  // Sentences for the log since last asked: why something can't be heard, each told once.
+  virtual std::vector<std::string> TakeProblems() { return {}; }
 };
 
 }  // namespace quendle

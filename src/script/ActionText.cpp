@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "base/Text.h"
+#include "script/ActionTable.h"
 
 namespace quendle {
 
@@ -22,19 +23,27 @@ std::uint64_t LastEightBytes(std::string_view text) {
   return word;
 }
 
-ActionText::ActionText(std::string_view text)
-    : text_(text),
-      folded_(FoldCase(text)),
-      head_(FirstEightBytes(folded_)),
-      tail_(LastEightBytes(folded_)) {}
+ActionText::ActionText(std::string_view text, ActionTable* table)
+    : table_(table), text_(text), folded_(FoldCase(text)) {
+  edges_ = {FirstEightBytes(folded_), LastEightBytes(folded_)};
+}
 
-const ActionText& ActionText::Not() const {
-  if (!not_) not_ = std::make_unique<ActionText>(text_ + "not");
+const ActionText& ActionText::MakeNot() const {
+  if (table_ != nullptr) {
+    not_ = &table_->Get(text_ + "not");
+  } else {
+    own_not_ = std::make_unique<ActionText>(text_ + "not");
+    not_ = own_not_.get();
+  }
   return *not_;
 }
 
-ActionText ActionText::InRegion(std::string_view region) const {
-  return ActionText(std::string(region) + text_);
+const ActionText& ActionText::InRegion(std::string_view region) const {
+  std::string text(region);
+  text += text_;
+  if (table_ != nullptr) return table_->Get(text);
+  own_region_ = std::make_unique<ActionText>(text);
+  return *own_region_;
 }
 
 }  // namespace quendle

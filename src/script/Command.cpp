@@ -5,7 +5,7 @@
 #include "base/SF_Strings.h"
 #include "base/Text.h"
 #include "base/WorkDepth.h"
-#include "script/ScriptTarget.h"
+#include "script/Program.h"
 #include "script/ScriptVariables.h"
 
 namespace quendle {
@@ -140,17 +140,6 @@ void Command::ParseIf(const std::vector<ScriptLine>& lines, std::size_t& positio
     children_.push_back(std::move(child));
   }
   stack = SF_remove(stack, "if");
-  ListBranches();
-}
-
-void Command::ListBranches() {
-  for (const Command& child : children_) {
-    Branch branch;
-    // A condition that can't be evaluated must be asked, so that it can say so.
-    branch.decided_by_edge = child.type_ != NodeType::kBoolElse && child.condition_.names_action;
-    if (branch.decided_by_edge) branch.edge = child.condition_.pattern->GetEdge();
-    branches_.push_back(branch);
-  }
 }
 
 void Command::CompileCondition() {
@@ -175,50 +164,7 @@ bool Command::Holds(const ScriptVariables& variables) const {
 }
 
 Answer Command::Execute(const ScriptVariables& variables, ScriptTarget& target) const {
-  switch (type_) {
-    case NodeType::kBegin:
-      ExecuteChildren(variables, target);
-      return Answer::kEmpty;
-    case NodeType::kIf:
-      ExecuteIf(variables, target);
-      return Answer::kTrue;
-    case NodeType::kBoolIf:
-    case NodeType::kBoolElseIf:
-      if (!Holds(variables)) return Answer::kFalse;
-      ExecuteChildren(variables, target);
-      return Answer::kTrue;
-    case NodeType::kBoolElse:
-      ExecuteChildren(variables, target);
-      return Answer::kTrue;
-    case NodeType::kAction: {
-      bool unused = false;
-      target.Interpret(*statement_, false, unused);
-      return Answer::kEmpty;
-    }
-    case NodeType::kNone:
-      return Answer::kEmpty;
-  }
-  return Answer::kEmpty;
-}
-
-void Command::ExecuteIf(const ScriptVariables& variables, ScriptTarget& target) const {
-  const ActionText& action = variables.Action();
-  for (std::size_t i = 0; i < branches_.size(); ++i) {
-    const Branch& branch = branches_[i];
-    if (branch.decided_by_edge && !branch.edge.MayMatch(action)) continue;
-    if (children_[i].Execute(variables, target) == Answer::kTrue) return;
-  }
-}
-
-void Command::ExecuteChildren(const ScriptVariables& variables, ScriptTarget& target) const {
-  for (const Command& child : children_) {
-    if (child.type_ == NodeType::kAction) {
-      bool unused = false;
-      target.Interpret(*child.statement_, false, unused);
-    } else {
-      child.Execute(variables, target);
-    }
-  }
+  return Program(*this).Run(variables, target);
 }
 
 void Command::PrintCommand(std::vector<std::string>& lines) const {

@@ -47,6 +47,15 @@ class Command {
   // fatal.
   Answer Execute(const ScriptVariables& variables, ScriptTarget& target) const;
 
+  // Of a condition: whether it holds. The same faults are fatal.
+  bool Holds(const ScriptVariables& variables) const;
+  // Of a condition on "action": its pattern. Null for any other node.
+  const Pattern* DecidingPattern() const {
+    return condition_.names_action ? &*condition_.pattern : nullptr;
+  }
+  // Of an action: what it does.
+  const Statement* ActionStatement() const { return &*statement_; }
+
   // Appends the node as source lines.
   void PrintCommand(std::vector<std::string>& lines) const;
 
@@ -63,12 +72,6 @@ class Command {
     std::optional<Pattern> pattern;
   };
 
-  // What of a branch is looked at on every event, side by side in memory.
-  struct Branch {
-    Pattern::Edge edge;
-    bool decided_by_edge = false;  // the edge can reject; else the branch is asked itself
-  };
-
   void ParseCondition(const std::vector<ScriptLine>& lines, std::size_t& position,
                       std::string& stack, WorkDepth& depth);
   void ParseBegin(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
@@ -76,17 +79,12 @@ class Command {
   void ParseIf(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
                WorkDepth& depth);
   void CompileCondition();
-  void ListBranches();
-  void ExecuteIf(const ScriptVariables& variables, ScriptTarget& target) const;
-  bool Holds(const ScriptVariables& variables) const;
-  void ExecuteChildren(const ScriptVariables& variables, ScriptTarget& target) const;
 
   NodeType type_ = NodeType::kNone;
   std::string text_;
   FilePlace place_;
   std::vector<Command> children_;
   Condition condition_;                 // of a boolif1 or boolelseif1
-  std::vector<Branch> branches_;        // of an if: one for each child
   std::optional<Statement> statement_;  // of an action
 };
 

@@ -11,7 +11,7 @@ Pattern::Pattern(std::string_view text) : needle_(FoldCase(text)) {
   }
   const std::string ones(needle_.size(), '\xFF');
   const bool from_end = kind_ == Kind::kAtEnd;
-  edge_.at_end = from_end;
+  edge_.end = from_end ? 1 : 0;
   edge_.word = from_end ? LastEightBytes(needle_) : FirstEightBytes(needle_);
   edge_.mask = from_end ? LastEightBytes(ones) : FirstEightBytes(ones);
 }

@@ -25,10 +25,8 @@ class Pattern {
   struct Edge {
     std::uint64_t word = 0;
     std::uint64_t mask = 0;
-    bool at_end = false;
-    bool MayMatch(const ActionText& action) const {
-      return ((at_end ? action.Tail() : action.Head()) & mask) == word;
-    }
+    std::size_t end = 0;  // 1 for the back of the text
+    bool MayMatch(const ActionText& action) const { return (action.Edge(end) & mask) == word; }
   };
   const Edge& GetEdge() const { return edge_; }
 

@@ -7,14 +7,15 @@
 namespace quendle {
 
 Answer ScriptState::Execute(const ScriptVariables& variables, ScriptTarget& target) const {
-  return root_.Execute(variables, target);
+  return program_.Run(variables, target);
 }
 
 void ScriptState::Parse(const std::vector<ScriptLine>& lines, WorkDepth& depth) {
   std::size_t position = 1;
   std::string stack;
-  root_ = Command();
-  root_.Parse(lines, position, stack, depth);
+  root_ = std::make_unique<Command>();
+  root_->Parse(lines, position, stack, depth);
+  program_ = Program(*root_);
 }
 
 bool ScriptState::VerifyParse(const std::vector<std::string>& lines) const {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "script/Command.h"
+#include "script/Program.h"
 
 namespace quendle {
 
@@ -24,13 +26,14 @@ class ScriptState {
   bool VerifyParse(const std::vector<std::string>& lines) const;
 
   // Appends the script as source lines.
-  void PrintScript(std::vector<std::string>& lines) const { root_.PrintCommand(lines); }
+  void PrintScript(std::vector<std::string>& lines) const { root_->PrintCommand(lines); }
 
-  const Command& Root() const { return root_; }
+  const Command& Root() const { return *root_; }
 
  private:
+  Program program_;                                              // of root_
+  std::unique_ptr<Command> root_ = std::make_unique<Command>();  // stays where it is
   std::string name_;
-  Command root_;
 };
 
 }  // namespace quendle

@@ -27,12 +27,12 @@ class Statement {
   bool MayHoldToken() const { return may_hold_token_; }
 
  private:
-  std::string text_;
-  FilePlace origin_;
   StatementVerb verb_ = StatementVerb::kOther;
-  std::string argument_;
   bool has_argument_ = false;
   bool may_hold_token_ = false;
+  std::string argument_;
+  std::string text_;
+  FilePlace origin_;
 };
 
 }  // namespace quendle

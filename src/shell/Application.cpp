@@ -46,6 +46,12 @@ Application::Status Application::Start() {
 
 Application::Status Application::Deliver(const std::function<void()>& work) {
   if (status_ != Status::kRunning) return status_;
+  if (delivering_) {
+    // From the message loop of a box: what it throws is for the frame that showed the box.
+    work();
+    return status_;
+  }
+  delivering_ = true;
   try {
     try {
       work();
@@ -63,6 +69,7 @@ Application::Status Application::Deliver(const std::function<void()>& work) {
   } catch (const std::exception& error) {
     ReportFault(FatalError(std::string("an unexpected fault: ") + error.what()));
   }
+  delivering_ = false;
   return status_;
 }
 

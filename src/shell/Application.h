@@ -40,7 +40,8 @@ class Application : private GameStarter {
   ~Application() override;
 
   // Runs `work` (an event, a due tick, a form event) as the outermost frame. Work that arrives
-  // after the end is dropped.
+  // after the end is dropped. Called inside other work, from the message loop of a box, it lets
+  // ProcessEnds and FatalError through to the outermost frame.
   Status Deliver(const std::function<void()>& work);
 
   // Process start: up to the waiting start-up form or the question before it.
@@ -74,6 +75,7 @@ class Application : private GameStarter {
   Tracer* tracer_ = nullptr;
   BlitWatcher* blit_watcher_ = nullptr;
   Status status_ = Status::kRunning;
+  bool delivering_ = false;  // an outermost frame is on the stack
   FaultReport fault_;
 };
 

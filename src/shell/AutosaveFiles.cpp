@@ -22,6 +22,8 @@ std::string AutosaveFiles::ChooseSavedGame(bool last_run_ended_in_order) const {
   return kSetAside;
 }
 
+bool AutosaveFiles::IsSetAside(const std::string& chosen) { return chosen == kSetAside; }
+
 void AutosaveFiles::ForgetSetAside() const { files_.DeleteFileIfPresent(PathOf(kSetAside)); }
 
 }  // namespace quendle

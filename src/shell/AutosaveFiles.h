@@ -17,7 +17,9 @@ class AutosaveFiles {
   // The file that the game loads: the autosave of a run that didn't end in order, set aside under
   // another name, or else the saved game.
   std::string ChooseSavedGame(bool last_run_ended_in_order) const;
-  // The start went well: the one set aside is needed no more.
+  // Whether the chosen file is an autosave.
+  static bool IsSetAside(const std::string& chosen);
+  // The start went well and has made an autosave of its own: the one set aside is needed no more.
   void ForgetSetAside() const;
 
  private:

@@ -53,9 +53,13 @@ void StartUpGame(Globals& globals, SettingsFiles& files, GameHost& host, int win
   LoadGlobalScripts(globals);
   LoadGlobalObjects(globals, context);
   const AutosaveFiles autosave(globals.media.content);
-  globals.GameLogic->Initialize(context, autosave.ChooseSavedGame(ended_in_order));
+  const std::string saved_game = autosave.ChooseSavedGame(ended_in_order);
+  globals.GameLogic->Initialize(context, saved_game);
   globals.GameLogic->TurnOn();
-  autosave.ForgetSetAside();
+  // The start went well: what it recovered must outlive the next crash, too.
+  if (AutosaveFiles::IsSetAside(saved_game) && globals.GameLogic->Autosave()) {
+    autosave.ForgetSetAside();
+  }
 }
 
 void ShutDownGame(Globals& globals, SettingsFiles& files) {

@@ -7,7 +7,7 @@
 namespace quendle {
 
 Globals::Globals(Settings& settings, Ports& ports, ContentFiles& content)
-    : media(settings, ports, content), scripts{watch}, objects(media, scripts, watch, factory) {
+    : media(settings, ports, content), scripts(watch), objects(media, scripts, watch, factory) {
   RegisterObjectClasses(factory);
 }
 

@@ -10,12 +10,7 @@
 #include "logic/ScreenObject.h"
 #include "logic/ToolObject.h"
 #include "object/ObjectFactory.h"
-#include "subgames/PlayAreaObject_Bkr.h"
-#include "subgames/PlayAreaObject_Bob.h"
-#include "subgames/PlayAreaObject_Shtr.h"
-#include "subgames/PlayAreaObject_Square.h"
-#include "subgames/PointSystemObject.h"
-#include "subgames/SubgameObject.h"
+#include "subgames/SubgameClasses.h"
 
 namespace quendle {
 namespace {
@@ -32,16 +27,11 @@ void Register(ObjectFactory& factory, std::initializer_list<const char*> words) 
 void RegisterObjectClasses(ObjectFactory& factory) {
   Register<ScreenObject>(factory, {"hall", "overlay"});
   Register<ButtonObject>(factory, {"dialog", "button", "key"});
-  Register<SubgameObject>(factory, {"subgame"});
   Register<PatientObject>(factory, {"doctor", "patient"});
   Register<MenuObject>(factory, {"menu"});
-  Register<PlayAreaObject_Square>(factory, {"playareasquare"});
-  Register<PlayAreaObject_Bkr>(factory, {"playareablinker"});
-  Register<PlayAreaObject_Bob>(factory, {"playareabobbler"});
-  Register<PlayAreaObject_Shtr>(factory, {"playareashooter"});
   Register<ToolObject>(factory, {"tool"});
   Register<BodyViewObject>(factory, {"bodyview"});
-  Register<PointSystemObject>(factory, {"pointsystem"});
+  RegisterSubgameClasses(factory);
 }
 
 }  // namespace quendle

@@ -19,9 +19,11 @@ namespace {
 constexpr const char* kListFolder = "\\Info\\";
 
 // The folder against which a line of a list is resolved: that of the line itself, and the folder
-// of the list for a line that begins with the token of the current folder.
+// of the list for a line that begins with a token, which has no folder of its own.
 std::string FolderOfLine(std::string_view line, const std::string& base_directory) {
-  if (FindNoCase(line, "<CurrentDirectory>\\") == 0) return kListFolder;
+  for (const char* token : {"<CurrentDirectory>\\", "<PreviousDirectory>\\"}) {
+    if (FindNoCase(line, token) == 0) return kListFolder;
+  }
   return RelativeDirectoryOf(line, base_directory);
 }
 

@@ -1,13 +1,43 @@
 #pragma once
 
-#include "object/ForwardingObject.h"
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "subgames/CellPlayArea.h"
 
 namespace quendle {
 
-// The field of the ball and the bricks.
-class PlayAreaObject_Bkr : public ForwardingObject {
+class CellObject_BBall;
+class CellObject_Blinker;
+
+// The field of the ball, the bricks and the paddle, which follows the pointer along a line.
+class PlayAreaObject_Bkr : public CellPlayArea {
  public:
-  using ForwardingObject::ForwardingObject;
+  PlayAreaObject_Bkr(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames);
+
+  void TurnOn() override;
+  void UpdateGameData() override;
+  void Describe(Inspector& inspector) const override;
+
+ protected:
+  void StartGame() override;
+  void PlayMouse(std::int16_t x, std::int16_t y, const std::string& action) override;
+  void DropCells() override;
+
+ private:
+  void BuildPlayField();
+  void AddBrick(const std::string& folder, int i);
+  // Lets bricks vanish where the ball is; true if any was left.
+  bool StrikeBricks(CellObject_BBall& ball);
+  void LoseBall(CellObject_BBall& ball);
+  void PauseForReplay();
+
+  // In m_colCells stand the bricks alone.
+  std::shared_ptr<CellObject_BBall> m_ptrBall;
+  std::shared_ptr<CellObject_Blinker> m_ptrPaddle;
+  std::int16_t m_nBalls = 0;
+  std::int16_t m_nRunState = 0;  // 1: ticks run, 2: waiting after a lost ball
 };
 
 }  // namespace quendle

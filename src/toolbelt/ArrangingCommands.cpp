@@ -2,13 +2,42 @@
 
 #include <nlohmann/json.hpp>
 
+#include "base/FatalError.h"
 #include "base/Text.h"
 #include "toolbelt/DriveCommand.h"
 
 namespace quendle {
 namespace {
 
+constexpr std::size_t kHelpWidth = 90;
 constexpr long kMostCalls = 1000000000;
+
+// Every operation that the platform of a session asks about before it carries it out.
+const std::vector<std::string>& OperationsThatCanFail() {
+  static const std::vector<std::string> kOperations = {
+      // the display
+      "Create", "SetDisplayMode", "SetCooperativeLevel", "CreatePrimarySurface", "CreateSurface",
+      "GetPixelFormat", "SetColorKey", "Blt", "GetDC", "ReleaseDC", "Restore", "TestMode",
+      "SetMode",
+      // contexts and bitmaps
+      "LoadImageA", "CreateCompatibleDC", "CreateCompatibleBitmap", "CreateMonochromeBitmap",
+      "SelectObject", "GetObjectA", "BitBlt", "TransparentBlt",
+      // the window and the players
+      "ReplaceWindowProc", "CreateGraph", "RenderFile",
+      // files
+      "read", "makefolder", "open", "write", "writepart", "flush", "rename", "flushfolder",
+      "remove", "writeline"};
+  return kOperations;
+}
+
+std::string ReadOperation(Arguments& arguments) {
+  const std::string word = arguments.Word();
+  for (const std::string& operation : OperationsThatCanFail()) {
+    if (EqualsNoCase(operation, word)) return operation;
+  }
+  arguments.Refuse("there is no operation \"" + word + "\"" +
+                   DidYouMean(word, OperationsThatCanFail()));
+}
 
 Json Random(DriveSession& session, Arguments& arguments) {
   std::vector<double> values;
@@ -32,7 +61,7 @@ Json SetClock(DriveSession& session, Arguments& arguments) {
 }
 
 Json Fail(DriveSession& session, Arguments& arguments) {
-  const std::string operation = arguments.Word();
+  const std::string operation = ReadOperation(arguments);
   int after = 0;
   int times = 0;  // for ever
   bool lost = false;
@@ -53,6 +82,17 @@ Json Fail(DriveSession& session, Arguments& arguments) {
 }
 
 }  // namespace
+
+std::string FaultHelp() {
+  std::string help = "Operations that can fail:";
+  std::size_t column = help.size();
+  for (const std::string& operation : OperationsThatCanFail()) {
+    const bool full = column + operation.size() + 1 > kHelpWidth;
+    help += (full ? "\n  " : " ") + operation;
+    column = (full ? 2 : column + 1) + operation.size();
+  }
+  return help + "\n";
+}
 
 const CommandTable& ArrangingCommands() {
   static const CommandTable kTable = {

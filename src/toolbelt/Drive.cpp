@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "backends/files/DiskFileSystem.h"
+#include "base/FatalError.h"
 #include "base/Text.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/Utf8.h"
@@ -69,6 +70,9 @@ Json RunCommandLine(DriveSession& session, const std::string& line) {
     fields = CarryOut(session, *text);
   } catch (const CommandRefused& refused) {
     return Refusal(refused.what());
+  } catch (const FatalError& error) {
+    // Not of the game, whose faults end in its own frame: an argument that is out of range.
+    return Refusal(error.what());
   }
   if (session.Game().GetStatus() == Application::Status::kFailed) return FatalAnswer(session);
   Json answer = {{"ok", true}};

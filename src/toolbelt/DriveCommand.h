@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -33,5 +34,7 @@ std::vector<const CommandTable*> AllCommands();
 const DriveCommand* FindCommand(std::string_view name);
 // One line a command, for the help.
 std::string CommandHelp();
+// The operations that `fail` knows, for the help.
+std::string FaultHelp();
 
 }  // namespace quendle

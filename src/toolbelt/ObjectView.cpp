@@ -1,5 +1,6 @@
 #include <nlohmann/json.hpp>
 
+#include "base/Text.h"
 #include "object/ForwardingObject.h"
 #include "screens/GameObjectMemento.h"
 #include "toolbelt/Views.h"
@@ -12,12 +13,19 @@ class JsonInspector : public Inspector {
  public:
   explicit JsonInspector(Json& fields) : fields_(fields) {}
   void Field(std::string_view name, std::string_view value) override {
-    fields_[std::string(name)] = TextJson(value);
+    At(name) = TextJson(value);
   }
-  void Field(std::string_view name, long value) override { fields_[std::string(name)] = value; }
-  void Flag(std::string_view name, bool value) override { fields_[std::string(name)] = value; }
+  void Field(std::string_view name, long value) override { At(name) = value; }
+  void Flag(std::string_view name, bool value) override { At(name) = value; }
 
  private:
+  // "points.hits" is the field "hits" of an object "points".
+  Json& At(std::string_view name) {
+    const std::size_t dot = name.find('.');
+    if (dot == std::string_view::npos) return fields_[std::string(name)];
+    return fields_[std::string(name.substr(0, dot))][ToUtf8(name.substr(dot + 1))];
+  }
+
   Json& fields_;
 };
 

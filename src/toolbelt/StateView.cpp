@@ -30,10 +30,9 @@ Json DescribeCache(const ScreenKeeper& keeper) {
 }
 
 Json DescribeMusic(const GameLogicLayer& logic, bool game_active) {
-  // The state is not changed by asking it; its queries lead to the player, which is not const.
-  auto* music = const_cast<SoundState*>(logic.Music());
-  const DShowObj* player = music == nullptr ? nullptr : music->Player();
-  const bool playing = music != nullptr && music->IsPlaying();
+  const SoundState* music = logic.Music();
+  DShowObj* player = music == nullptr ? nullptr : music->Player();
+  const bool playing = player != nullptr && music->FileFound() && player->StillPlaying(0);
   return {{"playing", playing},
           {"paused", playing && !game_active},
           {"position", player == nullptr ? 0.0 : player->GetPosition()},

@@ -2,12 +2,16 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <iostream>
 #include <memory>
 
+#include "toolbelt/Bench.h"
+#include "toolbelt/BenchTable.h"
 #include "toolbelt/Drive.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/PictureTool.h"
+#include "toolbelt/Render.h"
 #include "toolbelt/SmallestContent.h"
 
 namespace quendle {
@@ -53,10 +57,46 @@ void AddDrive(CLI::App& belt, int& exit_code) {
       "Each command is answered by one line of JSON. A line that begins with # or > is a\n"
       "comment.\n"
       "Exit code 0, or 3 when the game ended fatally. Commands:\n\n" +
-      CommandHelp());
+      CommandHelp() + FaultHelp());
   drive->callback([settings, path, &exit_code] {
     settings->options.window_path = *path == "window";
     exit_code = RunDrive(*settings);
+  });
+}
+
+void AddRender(CLI::App& belt, int& exit_code) {
+  CLI::App* tool = belt.add_subcommand("render", "Writes the picture of a screen as a PNG file");
+  auto words = std::make_shared<std::array<std::string, 3>>();
+  tool->add_option("DIR", (*words)[0], "The content tree")
+      ->required()
+      ->check(CLI::ExistingDirectory);
+  tool->add_option("SCREEN", (*words)[1], "Its name in the screen table")->required();
+  tool->add_option("OUT.png", (*words)[2], "The picture to write")->required();
+  tool->callback(
+      [words, &exit_code] { exit_code = RenderScreen((*words)[0], (*words)[1], (*words)[2]); });
+}
+
+void AddBench(CLI::App& belt) {
+  CLI::App* tool = belt.add_subcommand(
+      "bench", "Measures the engine: one workload, or a table for a content tree");
+  auto workload = std::make_shared<std::string>();
+  auto folder = std::make_shared<std::string>(DefaultBenchFolder());
+  auto content = std::make_shared<std::string>();
+  CLI::Option* which = tool->add_option(
+      "WORKLOAD", *workload, "W1: whole frames; W3: mouse events; any other prints nothing");
+  tool->add_option("--data", *folder, "The folder of a workload's inputs")->capture_default_str();
+  tool->add_option("--content", *content, "The content tree of the table")
+      ->check(CLI::ExistingDirectory)
+      ->excludes(which);
+  tool->callback([workload, folder, content] {
+    if (workload->empty() && content->empty()) {
+      throw CLI::RequiredError("WORKLOAD or --content");
+    }
+    if (workload->empty()) {
+      PrintBenchTable(*content);
+    } else {
+      RunBench(*workload, *folder);
+    }
   });
 }
 
@@ -75,7 +115,9 @@ int RunToolBelt(std::vector<std::string> words) {
   int exit_code = 0;
   AddDrive(belt, exit_code);
   AddPicture(belt);
+  AddRender(belt, exit_code);
   AddNew(belt);
+  AddBench(belt);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);

@@ -93,7 +93,7 @@ TEST(WorkDepth, LoadsAndWalksGiveTheirObjectAndLeaveTheTextToTheMessageAround) {
   EXPECT_EQ(depth.FailedText(), "cs_hall");
 }
 
-TEST(WorkDepth, AMessageWithoutAPlaceTakesTheObjectNothingElseGave) {
+TEST(WorkDepth, ALineWithoutAPlaceTakesTheObjectOfTheLevelAround) {
   WorkDepth depth;
   Place hall("hall");
   try {
@@ -103,7 +103,24 @@ TEST(WorkDepth, AMessageWithoutAPlaceTakesTheObjectNothingElseGave) {
   } catch (const FatalError&) {
   }
   EXPECT_EQ(depth.FailedText(), "change open");
-  EXPECT_EQ(depth.FailedObject(), "") << "the innermost text ends the search";
+  EXPECT_EQ(depth.FailedObject(), "hall");
+}
+
+TEST(WorkDepth, AMessageLeadsBackToTheScriptLineThatSentIt) {
+  WorkDepth depth;
+  Place door("hall/door");
+  const FilePlace line{"Info\\door.txt", 7};
+  const FilePlace outer_line{"Info\\outer.txt", 1};
+  try {
+    DepthGuard outer(depth, Work::kScript, "mtp open", nullptr, &outer_line);
+    DepthGuard script(depth, Work::kScript, "mtp cs_attic", &door, &line);
+    DepthGuard message(depth, Work::kMessage, "cs_attic");
+    throw FatalError("fault");
+  } catch (const FatalError&) {
+  }
+  EXPECT_EQ(depth.FailedText(), "cs_attic");
+  EXPECT_EQ(depth.FailedObject(), "hall/door");
+  EXPECT_EQ(depth.FailedPlace().file, "Info\\door.txt");
 }
 
 TEST(WorkDepth, AFaultTellsWhereItsScriptLineStands) {

@@ -57,18 +57,18 @@ inline void PutObject(MemoryFileSystem& files, const ObjectText& object) {
   };
   const bool picture = object.width > 0;
 
-  files.Put(ObjectPath(object.name), object.type + "\n" + object.name + "\n0\n0\n0\n0\n" +
-                                         here(true, "data.txt") + "\n" +
-                                         here(!object.children.empty(), "children.txt") + "\n" +
-                                         object.directives + "\n");
+  files.Put(ObjectPath(object.name),
+            object.type + "\n" + object.name + "\n0\n0\n0\n0\n" + here(true, "data.txt") + "\n" +
+                here(!object.children.empty(), "children.txt") + "\n" + object.directives + "\n");
   put("data.txt", here(true, "states.txt") + "\n" + here(picture, "animation.txt") + "\n" +
                       here(!object.sounds.empty(), "sounds.txt") + "\n" +
                       here(!object.scripts.empty(), "scripts.txt") + "\n0\n");
 
   std::string text;
   for (const StateText& state : object.states) {
-    const std::string animation =
-        !state.animation.empty() ? state.animation : picture ? "show" : "nothing";
+    const std::string animation = !state.animation.empty() ? state.animation
+                                  : picture                ? "show"
+                                                           : "nothing";
     text += state.name + "\n" + state.sound + "\n" + animation + "\n" + state.script + "\n0\n0\n";
   }
   put("states.txt", text);
@@ -99,8 +99,8 @@ inline void PutObject(MemoryFileSystem& files, const ObjectText& object) {
 
   text.clear();
   for (const auto& [name, lines] : object.scripts) {
-    text += name + "\n<CurrentDirectory>\\script" + name + ".txt\n-\n";
-    files.Put(folder + "script" + name + ".txt", "begin\n" + lines + "end\n");
+    text += name + "\n<CurrentDirectory>\\script-" + name + ".txt\n-\n";
+    files.Put(folder + "script-" + name + ".txt", "begin\n" + lines + "end\n");
   }
   if (!text.empty()) put("scripts.txt", text);
 

@@ -21,9 +21,8 @@ struct SavedGameBench : testing::Test, WorldBench {
   void Screens(const std::vector<std::pair<std::string, std::string>>& typed_names) {
     std::string table;
     for (const auto& [type, name] : typed_names) {
-      PutObject(files, {.type = type,
-                        .name = name,
-                        .states = {{.name = "default"}, {.name = "better1"}}});
+      PutObject(files,
+                {.type = type, .name = name, .states = {{.name = "default"}, {.name = "better1"}}});
       table += ObjectPath(name) + "\n";
     }
     files.Put("\\Info\\screens.txt", table);
@@ -92,8 +91,8 @@ TEST_F(SavedGameTest, BlinkerAndBobblerScreensStayOutByTheirTypeOnly) {
 }
 
 TEST_F(SavedGameTest, ScreensOfTheFileThatNobodyAsksForAreWrittenBackUnchanged) {
-  const std::string text = "begin\r\n" + Record("a", "better1") + Record("unheardof", "x y") +
-                           "end\r\n";
+  const std::string text =
+      "begin\r\n" + Record("a", "better1") + Record("unheardof", "x y") + "end\r\n";
   files.Put("\\userdata.txt", text);
   keeper.LoadGame("userdata.txt");
   keeper.SaveGame("userdata.txt");
@@ -181,8 +180,16 @@ TEST_F(SavedGameTest, ASnapshotWritesWhatSavingWouldAndLeavesTheKeeperAlone) {
 
   keeper.SaveGame("userdata.txt");
   EXPECT_EQ(File("\\autosave.txt"), File("\\userdata.txt"));
-  EXPECT_EQ(File("\\autosave.txt"),
-            "begin\r\n" + Record("a", "better1") + Record("b") + "end\r\n");
+  EXPECT_EQ(File("\\autosave.txt"), "begin\r\n" + Record("a", "better1") + Record("b") + "end\r\n");
+}
+
+TEST_F(SavedGameTest, ASnapshotHoldsScreensThatAreNotLiveAsWell) {
+  Screens({{"hall", "a"}});
+  files.Put("\\userdata.txt", "begin\n" + Record("z", "better1") + "end\n");
+  keeper.LoadGame("userdata.txt");
+  keeper.GetScreen("a");
+  EXPECT_TRUE(keeper.WriteSnapshot("autosave.txt"));
+  EXPECT_EQ(File("\\autosave.txt"), "begin\r\n" + Record("z", "better1") + Record("a") + "end\r\n");
 }
 
 TEST_F(SavedGameTest, AFailedSnapshotSaysSoAndLeavesTheOldOne) {

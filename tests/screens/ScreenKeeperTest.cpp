@@ -96,9 +96,8 @@ TEST_F(ScreenKeeperTest, TwoScreensOfOneNameAreFatalAndTheLineIsNamed) {
   files.Put("\\Info\\twin.txt", "hall\r\nHALL\r\n");
   files.Put("\\Info\\screens.txt", ObjectPath("hall") + "\r\n\\Info\\twin.txt\r\n");
   ScreenKeeper other(objects);
-  EXPECT_THAT(
-      Fault([&] { other.InitializeScreenKeeper("\\Info\\screens.txt", logic, 0); }),
-      testing::AllOf(testing::StartsWith("Info\\screens.txt:2: "), HasSubstr("HALL")));
+  EXPECT_THAT(Fault([&] { other.InitializeScreenKeeper("\\Info\\screens.txt", logic, 0); }),
+              testing::AllOf(testing::StartsWith("Info\\screens.txt:2: "), HasSubstr("HALL")));
 }
 
 TEST_F(ScreenKeeperTest, AMissingTableAndAMissingScreenFileAreFatalWithTheBoxOfAMissingFile) {
@@ -185,7 +184,8 @@ TEST_F(ScreenKeeperTest, ToolsAndCursorsCountButNeverMakeRoom) {
   Screens({"Tools", "Cursors", "a", "b", "c", "d"});
   for (const char* name : {"tools", "cursors", "a", "b", "c"}) GetAndFree(name);
   keeper.GetScreen("d");
-  EXPECT_THAT(Cache(), ElementsAre("Tools 0 free", "Cursors 0 free", "b 0 free", "c 0 free", "d 0"));
+  EXPECT_THAT(Cache(),
+              ElementsAre("Tools 0 free", "Cursors 0 free", "b 0 free", "c 0 free", "d 0"));
 }
 
 TEST_F(ScreenKeeperTest, ALookupTakesTheFreedomBackAndNothingGivesItAgain) {

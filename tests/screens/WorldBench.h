@@ -63,10 +63,10 @@ struct WorldBench : BenchPlatform {
     objects.log = &log;
     media.log = &log;
     files.Put("\\info\\tools\\tool.bmp", Filled(1, 1, 0xC8C8C8));
-    for (const char* type : {"hall", "overlay", "button", "doctor", "patient", "tool", "subgame",
-                             "menu", "dialog"}) {
-      factory.Register(type,
-                       [](ObjectWorld& world) { return std::make_shared<ForwardingObject>(world); });
+    for (const char* type :
+         {"hall", "overlay", "button", "doctor", "patient", "tool", "subgame", "menu", "dialog"}) {
+      factory.Register(
+          type, [](ObjectWorld& world) { return std::make_shared<ForwardingObject>(world); });
     }
     InitializeDirectDraw(media, 1);
   }

@@ -13,8 +13,8 @@
 #include "backends/desktop/FormPainter.h"
 #include "backends/desktop/GameFolders.h"
 #include "backends/desktop/GameOptions.h"
+#include "backends/desktop/OpenAlFilterGraphs.h"
 #include "backends/desktop/SdlLibrary.h"
-#include "backends/desktop/SilentFilterGraphs.h"
 #include "backends/desktop/TextPainter.h"
 #include "backends/files/DiskFileSystem.h"
 #include "backends/raster/BitmapPictureSaver.h"
@@ -63,7 +63,7 @@ class DesktopBackend {
   RasterGdi gdi_;
   RasterDirectDraw direct_draw_;
   RasterDisplayModes display_modes_;
-  SilentFilterGraphs filter_graphs_;
+  OpenAlFilterGraphs filter_graphs_{files_, clock_};
   FontFinder fonts_;
   TextPainter text_;
   FormPainter painter_;

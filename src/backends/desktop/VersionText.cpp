@@ -5,8 +5,10 @@
 
 #include <memory>
 
+#include "backends/codecs/SoundDecoder.h"
 #include "backends/desktop/FontFinder.h"
 #include "backends/desktop/FrameRenderer.h"
+#include "backends/desktop/OpenAlDevice.h"
 #include "backends/desktop/SdlLibrary.h"
 #include "base/FatalError.h"
 
@@ -49,7 +51,8 @@ std::string VersionText(const std::string& program, const std::string& build,
   SDL_GetVersion(&sdl);
   FontFinder fonts(FontFinder::SystemFolders());
   std::string text = program + " " + build + "\n";
-  text += "libraries: SDL " + NumberOf(sdl) + ", SDL_ttf " + NumberOf(*TTF_Linked_Version()) + "\n";
+  text += "libraries: SDL " + NumberOf(sdl) + ", SDL_ttf " + NumberOf(*TTF_Linked_Version()) + ", " +
+          OpenAlDevice::Library() + ", " + SoundDecoder::Library() + "\n";
   text += "drawing:   " + DrawingBackend() + "\n";
   text += "font:      " + (fonts.Regular().empty() ? "none" : fonts.Regular().string()) + "\n";
   if (!folders.content.empty()) {

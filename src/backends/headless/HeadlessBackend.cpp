@@ -8,7 +8,7 @@ HeadlessBackend::HeadlessBackend(FileSystem& files, Faults& platform_faults, std
       gdi(files, screen, faults),
       direct_draw(gdi, screen, faults),
       display_modes(faults),
-      filter_graphs(faults),
+      filter_graphs(files, clock, faults),
       window(gdi, screen, faults),
       picture_saver(files),
       ports{files,       clock,         timers,        random, boxes, gdi,

@@ -1,19 +1,29 @@
 #pragma once
 
-#include "platform/Faults.h"
+#include "backends/codecs/SoundLibrary.h"
 #include "platform/FilterGraph.h"
 
 namespace quendle {
 
-// Players without a decoder: no file can be rendered, so every sound is silence. "CreateGraph" can
-// be planned to fail.
+class Clock;
+class Faults;
+class FileSystem;
+
+// Players that nobody hears: files are decoded, so that durations are the real ones, and positions
+// run with the clock. In virtual time a sound thus ends at the same moment every time.
+// "CreateGraph" and "RenderFile" can be planned to fail.
 class HeadlessFilterGraphs : public FilterGraphs {
  public:
-  // `faults` must outlive this object.
-  explicit HeadlessFilterGraphs(Faults& faults) : faults_(faults) {}
+  // All must outlive this object and its graphs; so must this object.
+  HeadlessFilterGraphs(FileSystem& files, Clock& clock, Faults& faults)
+      : library_(files), clock_(clock), faults_(faults) {}
+
   std::unique_ptr<FilterGraph> Create() override;
+  std::vector<std::string> TakeProblems() override { return library_.TakeProblems(); }
 
  private:
+  SoundLibrary library_;
+  Clock& clock_;
   Faults& faults_;
 };
 

@@ -1,0 +1,111 @@
+#include "script/Program.h"
+
+#include <utility>
+
+#include "script/ActionText.h"
+#include "script/ScriptTarget.h"
+#include "script/ScriptVariables.h"
+
+namespace quendle {
+
+Program::Program(const Command& root) : root_(root.Type()) {
+  Emit(root);
+  steps_.shrink_to_fit();
+}
+
+void Program::Emit(const Command& node) {
+  switch (node.Type()) {
+    case NodeType::kAction:
+      steps_.push_back({node.ActionStatement(), 0, Kind::kAct});
+      break;
+    case NodeType::kIf:
+      EmitChoice(node.Children().data(), node.Children().size());
+      break;
+    case NodeType::kBoolIf:
+    case NodeType::kBoolElseIf:
+      EmitChoice(&node, 1);
+      break;
+    case NodeType::kBegin:
+    case NodeType::kBoolElse:
+      EmitChildren(node);
+      break;
+    case NodeType::kNone:
+      break;
+  }
+}
+
+void Program::EmitChildren(const Command& node) {
+  for (const Command& child : node.Children()) Emit(child);
+}
+
+void Program::EmitChoice(const Command* first, std::size_t count) {
+  const std::size_t place = choices_.size();
+  choices_.emplace_back();
+  steps_.push_back({nullptr, static_cast<std::uint32_t>(place), Kind::kChoose});
+  std::vector<std::uint32_t> jumps_to_end;
+  for (const Command* node = first; node != first + count; ++node) {
+    const bool unconditional = node->Type() == NodeType::kBoolElse;
+    // A condition that can't be evaluated has no deciding pattern: it must be asked, so as to say
+    // so.
+    choices_[place].branches.push_back(
+        {unconditional ? nullptr : node, node->DecidingPattern(), Next()});
+    EmitChildren(*node);
+    jumps_to_end.push_back(Next());
+    steps_.push_back({nullptr, 0, Kind::kJump});
+  }
+  choices_[place].otherwise = Next();
+  for (std::uint32_t jump : jumps_to_end) steps_[jump].target = Next();
+}
+
+std::uint32_t Program::Evaluate(const Choice& choice, const ScriptVariables& variables) {
+  for (const Branch& branch : choice.branches) {
+    const bool matches = branch.condition == nullptr ||
+                         (branch.pattern != nullptr ? branch.pattern->Matches(variables.Action())
+                                                    : branch.condition->Holds(variables));
+    if (matches) return branch.target;
+  }
+  return choice.otherwise;
+}
+
+std::uint32_t Program::Choose(const Choice& choice, const ScriptVariables& variables) {
+  const ActionText& action = variables.Action();
+  if (choice.known[0] == &action) return choice.known_target[0];
+  if (choice.known[1] == &action) return choice.known_target[1];
+  const std::uint32_t target = Evaluate(choice, variables);
+  if (action.IsInterned()) {
+    choice.known[1] = std::exchange(choice.known[0], &action);
+    choice.known_target[1] = std::exchange(choice.known_target[0], target);
+  }
+  return target;
+}
+
+Answer Program::Run(const ScriptVariables& variables, ScriptTarget& target) const {
+  const std::size_t count = steps_.size();
+  bool matched = true;
+  for (std::size_t at = 0; at < count;) {
+    const Step& step = steps_[at];
+    if (step.kind == Kind::kAct) {
+      bool unused = false;
+      target.Interpret(*step.statement, false, unused);
+      ++at;
+    } else if (step.kind == Kind::kChoose) {
+      const std::uint32_t next = Choose(choices_[step.target], variables);
+      if (at == 0) matched = next != choices_[0].otherwise;
+      at = next;
+    } else {
+      at = step.target;
+    }
+  }
+  switch (root_) {
+    case NodeType::kIf:
+    case NodeType::kBoolElse:
+      return Answer::kTrue;
+    case NodeType::kBoolIf:
+    case NodeType::kBoolElseIf:
+      return matched ? Answer::kTrue : Answer::kFalse;
+    default:
+      return Answer::kEmpty;
+  }
+}
+
+}  // namespace quendle

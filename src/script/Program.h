@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "script/Command.h"
+
+namespace quendle {
+
+class ActionText;
+
+// A tree of commands as a list of steps, side by side in memory: what an event has to look at.
+//
+// An `if` remembers for its last two action texts which branch they lead to: at most events an
+// object gets the same text as before, usually that the pointer is somewhere else.
+class Program {
+ public:
+  Program() = default;
+  // The nodes below `root` must outlive the program and stay where they are.
+  explicit Program(const Command& root);
+
+  // Runs the steps. The answer is that of the root node: a condition's "true" or "false", "true"
+  // for an if, nothing for a block or an action.
+  Answer Run(const ScriptVariables& variables, ScriptTarget& target) const;
+
+ private:
+  enum class Kind : std::uint8_t { kChoose, kAct, kJump };
+  struct Step {
+    const Statement* statement = nullptr;  // of kAct
+    std::uint32_t target = 0;              // of kJump; of kChoose its place among choices_
+    Kind kind = Kind::kJump;
+  };
+  // A branch: its condition (null for an else) and where it goes on.
+  struct Branch {
+    const Command* condition = nullptr;
+    const Pattern* pattern = nullptr;  // null where the condition must be asked itself
+    std::uint32_t target = 0;
+  };
+  struct Choice {
+    mutable std::array<const ActionText*, 2> known{};
+    mutable std::array<std::uint32_t, 2> known_target{};
+    std::uint32_t otherwise = 0;  // where no branch matches
+    std::vector<Branch> branches;
+  };
+
+  void Emit(const Command& node);
+  void EmitChildren(const Command& node);
+  // One choice among the branches; `node` itself is the only branch of a condition node.
+  void EmitChoice(const Command* first, std::size_t count);
+  std::uint32_t Next() const { return static_cast<std::uint32_t>(steps_.size()); }
+  static std::uint32_t Choose(const Choice& choice, const ScriptVariables& variables);
+  static std::uint32_t Evaluate(const Choice& choice, const ScriptVariables& variables);
+
+  std::vector<Step> steps_;
+  std::vector<Choice> choices_;
+  NodeType root_ = NodeType::kNone;
+};
+
+}  // namespace quendle

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "media/MediaWorld.h"
+#include "platform/DirectDraw.h"
+#include "platform/Gdi.h"
+
+namespace quendle {
+
+// A drawing context with a bitmap and, in the DirectDraw path, an off-screen surface with the
+// colour key: room for a picture of the whole board. Owns all three.
+class BoardCanvas {
+ public:
+  // `like` is the context that the new one is made compatible with. `world` must outlive it. What
+  // the display refuses stays empty.
+  BoardCanvas(MediaWorld& world, ContextHandle like, int width, int height);
+  ~BoardCanvas();
+  BoardCanvas(const BoardCanvas&) = delete;
+  BoardCanvas& operator=(const BoardCanvas&) = delete;
+
+  ContextHandle Context() const { return context_; }
+  const SurfaceRef& OffScreen() const { return surface_; }
+
+ private:
+  MediaWorld& world_;
+  ContextHandle context_ = 0;
+  BitmapHandle bitmap_ = 0;
+  SurfaceRef surface_;
+};
+
+}  // namespace quendle

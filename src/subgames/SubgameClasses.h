@@ -1,0 +1,11 @@
+#pragma once
+
+namespace quendle {
+
+class ObjectFactory;
+
+// Makes the type words of the arcade games known. All play areas that the factory makes share one
+// SubgameWorld, which lives as long as the factory or one of them.
+void RegisterSubgameClasses(ObjectFactory& factory);
+
+}  // namespace quendle

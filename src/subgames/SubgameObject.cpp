@@ -1,0 +1,19 @@
+#include "subgames/SubgameObject.h"
+
+#include "base/Text.h"
+
+namespace quendle {
+
+void SubgameObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
+                                  bool verifying, bool& result) {
+  if (ContainsNoCase(message, "scorevalue")) {
+    if (!verifying) Inner().NotifyChild(message, "menu");
+  } else if (ContainsNoCase(message, "done") || ContainsNoCase(message, "won") ||
+             ContainsNoCase(message, "lost")) {
+    Inner().NotifyParent(message, verifying, result);
+  } else {
+    Inner().HandleMessage(message, sender, verifying, result);
+  }
+}
+
+}  // namespace quendle
