@@ -32,8 +32,9 @@ class FrameReader {
         limited_range_(frame.color_range == AVCOL_RANGE_MPEG) {
     if (palette_) count_ = kMostComponents;
     for (auto& component : row_.components) component.resize(Columns());
-    std::ranges::copy(frame.data, planes_.begin());
-    std::ranges::copy(frame.linesize, strides_.begin());
+    // A frame has room for more planes than any picture has.
+    std::copy_n(frame.data, planes_.size(), planes_.begin());
+    std::copy_n(frame.linesize, strides_.size(), strides_.begin());
   }
 
   void ReadRow(int y) {
