@@ -22,7 +22,7 @@ void SetLine(Form& form, int element, const Rect& area, Color color) {
   line.visible = true;
 }
 
-Control& Picture(Form& form, int index) {
+Control& ButtonPicture(Form& form, int index) {
   if (Control* picture = form.Find("Picture1", index)) return *picture;
   throw FatalError("the form " + form.name + " has no picture " + std::to_string(index));
 }
@@ -75,15 +75,15 @@ void AddPicturePair(Form& form, int index, const std::string& art, const std::st
 void PairButtonPictures(Form& form, int lower, int upper) {
   for (int index = lower; index <= upper; ++index) {
     if (index % 2 != 0) continue;
-    const Rect& partner = Picture(form, index - 1).area;
-    MoveTo(Picture(form, index), partner.left + 1, partner.top + 1);
+    const Rect& partner = ButtonPicture(form, index - 1).area;
+    MoveTo(ButtonPicture(form, index), partner.left + 1, partner.top + 1);
   }
 }
 
 void PositionTitleButtons(Form& form, int minimise) {
   for (int place = 0; place < 3; ++place) {
     const int left = form.size.width - kTitleButtonsWidth + place * kTitleButtonStep;
-    MoveTo(Picture(form, minimise + 2 * place), left, kTitleTop);
+    MoveTo(ButtonPicture(form, minimise + 2 * place), left, kTitleTop);
   }
 }
 
@@ -96,7 +96,7 @@ void LayoutTitleBar(Form& form, int minimise) {
 }
 
 void ArrangeButtons(Form& form, int last) {
-  Control& ok = Picture(form, 1);
+  Control& ok = ButtonPicture(form, 1);
   MoveTo(ok, (form.size.width - ok.area.Width()) / 2,
          form.size.height - kBottomMargin - ok.area.Height());
   PairButtonPictures(form, 1, last);
@@ -141,6 +141,16 @@ Control& AddRadio(Form& form, const std::string& group, const std::string& name,
 
 Control& AddCheck(Form& form, const std::string& name, const std::string& text, const Rect& area) {
   return Add(form, ControlKind::kCheck, name, text, area);
+}
+
+Control& AddImage(Form& form, const std::string& name, int index, const Rect& area) {
+  Control& image = Add(form, ControlKind::kImage, name, "", area);
+  image.index = index;
+  return image;
+}
+
+Control& AddScroll(Form& form, const std::string& name, const Rect& area) {
+  return Add(form, ControlKind::kScroll, name, "", area);
 }
 
 void SetRadio(Form& form, Control& radio) {

@@ -54,6 +54,11 @@ Control& AddRadio(Form& form, const std::string& group, const std::string& name,
                   const std::string& text, const Rect& area);
 Control& AddCheck(Form& form, const std::string& name, const std::string& text, const Rect& area);
 
+// Adds a place for a picture, an element of its control array.
+Control& AddImage(Form& form, const std::string& name, int index, const Rect& area);
+// Adds a scroll bar; it lies when it is wider than high.
+Control& AddScroll(Form& form, const std::string& name, const Rect& area);
+
 // Sets one radio button and clears the others of its group.
 void SetRadio(Form& form, Control& radio);
 // Sets the radio button of that name, which must exist.

@@ -1,5 +1,6 @@
 #include "dialogs/PictureForm.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/Settings.h"
@@ -9,6 +10,11 @@
 #include "platform/SystemServices.h"
 
 namespace quendle {
+namespace {
+
+constexpr int kArrowScroll = 20;
+
+}  // namespace
 
 PictureForm::PictureForm(FormServices services, std::string name, Size size, int last)
     : services_(services), last_(last) {
@@ -154,6 +160,8 @@ void PictureForm::MoveByArrow(int step) {
   Control* focused = Focused(form_);
   if (focused != nullptr && focused->kind == ControlKind::kRadio) {
     Choose(NeighbourInGroup(form_, *focused, step));
+  } else if (focused != nullptr && focused->kind == ControlKind::kScroll) {
+    Set(*focused, std::clamp(focused->value + step * kArrowScroll, 0, focused->maximum));
   } else {
     WalkFocus(step);
   }
@@ -169,7 +177,7 @@ void PictureForm::PressEnter() {
   if (acts) {
     Press(*focused, {});
   } else {
-    ButtonCommand(1);
+    ButtonCommand(DefaultButton());
   }
 }
 

@@ -12,7 +12,7 @@ namespace quendle {
 //
 // Keys: Tab walks the controls, arrows move inside a radio group and walk elsewhere, Space presses
 // what has the focus, Enter presses a button or link that has the focus and else the default
-// button (element 1), Esc closes.
+// button, Esc closes. Arrows move a scroll bar that has the focus.
 class PictureForm : public FormEvents {
  public:
   ~PictureForm() override;
@@ -44,6 +44,9 @@ class PictureForm : public FormEvents {
 
   // What a press on an element of Picture1 does.
   virtual void ButtonCommand(int index) = 0;
+
+  // The element that Enter presses when nothing else has the focus.
+  virtual int DefaultButton() const { return 1; }
 
   void Minimise();
   void Changed();

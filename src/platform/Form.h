@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/Geometry.h"
+#include "platform/Picture.h"
 
 namespace quendle {
 
@@ -27,6 +28,11 @@ struct Control {
   bool link = false;    // label: leads somewhere when pressed
   bool hover = false;   // label: shown with the look of a link under the pointer
   int font_size = 9;    // points
+  SharedPicture image;  // image: what it shows, stretched to its area
+  Rect clip;            // image and line: the part of the form it is seen in; empty for all of it
+  // Line: 0 fills its area, else a stroke of that width from the area's left top to its right
+  // bottom corner, which may lie left of it or above.
+  int thickness = 0;
 };
 
 enum class WindowState { kNormal, kMinimised };
@@ -58,6 +64,8 @@ class FormEvents {
   // A value chosen otherwise than by a press: a radio or check by a tool (0 or 1), a scroll bar
   // (its position). The form's logic changes the record.
   virtual void Set(Control& /*control*/, int /*value*/) {}
+  // A file was dropped on the form; the path is the system's.
+  virtual void Drop(const std::string& /*native_path*/) {}
   virtual void Key(FormKey key) = 0;
   virtual void QueryClose() = 0;  // the window system asks the form to close
 };

@@ -1,15 +1,18 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "platform/Geometry.h"
+#include "platform/Picture.h"
 
 namespace quendle {
 
-// Handles of contexts and bitmaps; 0 is none.
+// Handles of contexts, bitmaps and regions; 0 is none.
 using ContextHandle = std::int32_t;
 using BitmapHandle = std::int32_t;
+using RegionHandle = std::int32_t;
 
 // Raster operations: S source, D destination.
 enum class RasterOp : std::uint32_t {
@@ -20,7 +23,7 @@ enum class RasterOp : std::uint32_t {
   kNotSourceCopy = 0x330008  // not S
 };
 
-// Memory contexts and bitmaps. Operations on a handle of 0 or an unknown handle do nothing and
+// Memory contexts, bitmaps and regions. Operations on a handle of 0 or an unknown handle do nothing and
 // give 0, false or the invalid colour; copies are clipped to both bitmaps.
 class Gdi {
  public:
@@ -53,6 +56,20 @@ class Gdi {
   virtual void SetPixel(ContextHandle context, Point at, Color color) = 0;
   // Sets the background colour (white at creation) and gives the one before.
   virtual Color SetBkColor(ContextHandle context, Color color) = 0;
+
+  // A bitmap with the pixels of a picture; 0 for an empty one.
+  virtual BitmapHandle CreatePictureBitmap(const Picture& picture) = 0;
+  // The pixels of a bitmap; empty for an unknown handle.
+  virtual Picture ReadBitmap(BitmapHandle bitmap) = 0;
+
+  // Regions hold a pixel by its top left corner: left and top edges belong to them, right and
+  // bottom edges don't.
+  virtual RegionHandle CreateRectRgn(const Rect& area) = 0;
+  // All points that the closed outline winds around; 0 for fewer than three corners.
+  virtual RegionHandle CreatePolygonRgn(std::span<const Point> corners) = 0;
+  virtual void DeleteRegion(RegionHandle region) = 0;
+  // Gives the pixels of the region one colour.
+  virtual bool FillRgn(ContextHandle context, RegionHandle region, Color brush) = 0;
 };
 
 }  // namespace quendle

@@ -11,6 +11,8 @@ class FilterGraphs;
 class FormHost;
 class GameWindow;
 class Gdi;
+class PictureLoader;
+class PictureSaver;
 class RandomSource;
 class SystemServices;
 class TimerService;
@@ -29,6 +31,8 @@ struct Ports {
   GameWindow& window;
   FormHost& forms;
   SystemServices& system;
+  PictureLoader& picture_loader;
+  PictureSaver& picture_saver;
 };
 
 }  // namespace quendle

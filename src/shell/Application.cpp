@@ -35,7 +35,7 @@ Application::Application(Ports& ports, std::int16_t edition, std::string base_di
   settings_.BaseDirectory = std::move(base_directory);
   GameStarter& starter = *this;
   prompt_ = std::make_unique<TandrelPrompt>(
-      FormServices{ports.forms, ports.system, content_, settings_}, ports.boxes, starter, edition);
+      FormServices{ports.forms, ports.system, content_, settings_}, ports, starter, edition);
 }
 
 Application::~Application() = default;

@@ -7,7 +7,9 @@
 #include "dialogs/frmDifficultyMenu.h"
 #include "dialogs/frmOptionsMenu.h"
 #include "dialogs/frmSafeMode.h"
+#include "personalize/frmSelectPicture.h"
 #include "platform/Boxes.h"
+#include "platform/Ports.h"
 #include "platform/SystemServices.h"
 #include "shell/GameStarter.h"
 
@@ -22,10 +24,11 @@ constexpr Rect kTitleButtonSize{0, 0, 28, 28};
 
 }  // namespace
 
-TandrelPrompt::TandrelPrompt(FormServices services, Boxes& boxes, GameStarter& starter,
+TandrelPrompt::TandrelPrompt(FormServices services, Ports& ports, GameStarter& starter,
                              std::int16_t edition)
     : PictureForm(services, "TandrelPrompt", {420, 470}, kLastPicture),
-      boxes_(boxes),
+      ports_(ports),
+      boxes_(ports.boxes),
       starter_(starter),
       edition_(edition),
       settings_files_(services.files, services.settings) {}
@@ -158,8 +161,13 @@ void TandrelPrompt::ShowOptionsDialog() {
 }
 
 void TandrelPrompt::ShowPersonalizeDialog() {
-  boxes_.MessageBox(services_.settings.ProductName,
-                    "Putting your own photo into the game comes with a later version.");
+  if (!select_picture_) {
+    select_picture_ = std::make_unique<frmSelectPicture>(
+        PersonalizeServices{services_, *this, boxes_, ports_.gdi, ports_.picture_loader,
+                            ports_.picture_saver});
+  }
+  SetShown(false);
+  select_picture_->Open();
 }
 
 void TandrelPrompt::ShowDifficultyDialog() {

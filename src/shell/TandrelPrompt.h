@@ -15,6 +15,8 @@ class GameStarter;
 class frmDifficultyMenu;
 class frmOptionsMenu;
 class frmSafeMode;
+class frmSelectPicture;
+struct Ports;
 
 // The start-up form: tests that the game may run, reads the settings files, offers Play,
 // Personalize, Options and links, and opens the game. It works in the application's folder, so
@@ -22,7 +24,7 @@ class frmSafeMode;
 class TandrelPrompt : public PictureForm, public StartUpForm {
  public:
   // `edition` is 2 for the product itself and 1 for its sibling. All references outlive the form.
-  TandrelPrompt(FormServices services, Boxes& boxes, GameStarter& starter, std::int16_t edition);
+  TandrelPrompt(FormServices services, Ports& ports, GameStarter& starter, std::int16_t edition);
   ~TandrelPrompt() override;
 
   // From process start to the waiting form, or to the question after a crash. Throws ProcessEnds
@@ -58,6 +60,7 @@ class TandrelPrompt : public PictureForm, public StartUpForm {
   void ShowDifficultyDialog();
   void processGameState(std::string_view mode);
 
+  Ports& ports_;
   Boxes& boxes_;
   GameStarter& starter_;
   std::int16_t edition_;
@@ -66,6 +69,7 @@ class TandrelPrompt : public PictureForm, public StartUpForm {
   std::unique_ptr<frmOptionsMenu> options_;
   std::unique_ptr<frmDifficultyMenu> difficulty_;
   std::unique_ptr<frmSafeMode> safe_mode_;
+  std::unique_ptr<frmSelectPicture> select_picture_;
 };
 
 }  // namespace quendle

@@ -20,7 +20,7 @@ std::uint32_t LeaveKey(std::uint32_t color) {
 
 }  // namespace
 
-void KeyPicture(Picture& picture) {
+void KeyPicture(SheerPicture& picture) {
   for (std::uint32_t& pixel : picture.pixels) {
     const bool opaque = pixel >> 24 >= 128;
     pixel = opaque ? LeaveKey(pixel & 0xFFFFFF) : kGround;

@@ -8,7 +8,7 @@
 namespace quendle {
 
 void MakeKeyedBitmap(const std::string& png_path, const std::string& bitmap_path) {
-  Picture picture = ReadPng(png_path);
+  SheerPicture picture = ReadPng(png_path);
   KeyPicture(picture);
   const std::string bytes = WriteBitmapFile(picture.width, picture.height, picture.pixels.data());
   std::ofstream file(bitmap_path, std::ios::binary | std::ios::trunc);

@@ -29,7 +29,7 @@ class PngImage {
 
 }  // namespace
 
-Picture ReadPng(const std::string& path) {
+SheerPicture ReadPng(const std::string& path) {
   PngImage png;
   png_image& image = png.Get();
   if (png_image_begin_read_from_file(&image, path.c_str()) == 0) png.Fail(path);
@@ -40,7 +40,7 @@ Picture ReadPng(const std::string& path) {
   image.format = PNG_FORMAT_RGBA;
   std::vector<unsigned char> bytes(PNG_IMAGE_SIZE(image));
   if (png_image_finish_read(&image, nullptr, bytes.data(), 0, nullptr) == 0) png.Fail(path);
-  Picture picture{static_cast<int>(image.width), static_cast<int>(image.height), {}};
+  SheerPicture picture{static_cast<int>(image.width), static_cast<int>(image.height), {}};
   picture.pixels.reserve(bytes.size() / 4);
   for (std::size_t i = 0; i < bytes.size(); i += 4) {
     picture.pixels.push_back(static_cast<std::uint32_t>(bytes[i + 3]) << 24 |

@@ -15,7 +15,7 @@ class PictureError : public std::runtime_error {
 };
 
 // Reads a PNG file of at most 4096 by 4096 pixels. Throws PictureError.
-Picture ReadPng(const std::string& path);
+SheerPicture ReadPng(const std::string& path);
 
 // Writes words 0x00RRGGBB, row by row from the top, as an opaque PNG file. Throws PictureError.
 void WritePng(const std::string& path, int width, int height, const std::uint32_t* pixels);

@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "backends/codecs/PictureDecoderLoader.h"
+#include "backends/raster/BitmapPictureSaver.h"
 #include "backends/raster/PictureFiles.h"
 #include "backends/raster/RasterDirectDraw.h"
 #include "backends/raster/RasterDisplayModes.h"
@@ -42,7 +44,7 @@ class NotedBoxes : public Boxes {
   }
   bool YesNoBox(const std::string&, const std::string&) override { return true; }
   std::string InputBox(const std::string&, const std::string&) override { return {}; }
-  std::string ChooseFile(const std::string&) override { return {}; }
+  std::string ChooseFile(const std::string&, const std::vector<FileFilter>&) override { return {}; }
 };
 
 class StillWindow : public GameWindow {
@@ -110,8 +112,10 @@ struct MediaPlatform {
   NoForms forms;
   NoServices system;
   NotedLog log;
+  PictureDecoderLoader picture_loader;
+  BitmapPictureSaver picture_saver{files};
   Ports ports{files,       clock, timers, random, boxes, gdi,
-              direct_draw, modes, graphs, window, forms, system};
+              direct_draw, modes, graphs, window, forms, system, picture_loader, picture_saver};
   ContentFiles content{files, settings};
   MediaWorld world{settings, ports, content};
 };

@@ -39,9 +39,20 @@ struct BenchPlatform {
   MemoryFileSystem files{kBase, &faults};
   HeadlessBackend backend{files, faults};
   FakeGraphs graphs;
-  Ports ports{files,         backend.clock,  backend.timers,      backend.random,
-              backend.boxes, backend.gdi,    backend.direct_draw, backend.display_modes,
-              graphs,        backend.window, backend.forms,       backend.system};
+  Ports ports{files,
+              backend.clock,
+              backend.timers,
+              backend.random,
+              backend.boxes,
+              backend.gdi,
+              backend.direct_draw,
+              backend.display_modes,
+              graphs,
+              backend.window,
+              backend.forms,
+              backend.system,
+              backend.picture_loader,
+              backend.picture_saver};
 
   std::string File(const std::string& path) { return files.Get(path).value_or("(none)"); }
 };

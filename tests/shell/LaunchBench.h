@@ -3,8 +3,10 @@
 
 #include <functional>
 
+#include "backends/headless/HeadlessBackend.h"
 #include "dialogs/FormBench.h"
 #include "platform/Boxes.h"
+#include "platform/Ports.h"
 #include "shell/GameStarter.h"
 #include "shell/TandrelPrompt.h"
 
@@ -24,7 +26,9 @@ class RecordingBoxes : public Boxes {
     return yes;
   }
   std::string InputBox(const std::string&, const std::string&) override { return ""; }
-  std::string ChooseFile(const std::string&) override { return ""; }
+  std::string ChooseFile(const std::string&, const std::vector<FileFilter>&) override {
+    return "";
+  }
 
   bool yes = true;
   std::vector<Shown> shown;
@@ -43,7 +47,7 @@ class RecordingStarter : public GameStarter {
 struct LaunchBench : FormBench {
   // Makes the start-up form and runs its load.
   void Start(std::int16_t edition = 2) {
-    prompt = std::make_unique<TandrelPrompt>(Services(), boxes, starter, edition);
+    prompt = std::make_unique<TandrelPrompt>(Services(), ports, starter, edition);
     prompt->Load();
   }
   Form& Prompt() { return prompt->Record(); }
@@ -52,6 +56,21 @@ struct LaunchBench : FormBench {
 
   RecordingBoxes boxes;
   RecordingStarter starter;
+  HeadlessBackend backend{files, faults};
+  Ports ports{files,
+              backend.clock,
+              backend.timers,
+              backend.random,
+              boxes,
+              backend.gdi,
+              backend.direct_draw,
+              backend.display_modes,
+              backend.filter_graphs,
+              backend.window,
+              host,
+              system,
+              backend.picture_loader,
+              backend.picture_saver};
   std::unique_ptr<TandrelPrompt> prompt;
 };
 

@@ -368,13 +368,16 @@ TEST_F(TandrelPromptTest, MinimiseBeepAndLinkEvenLikeOdd) {
   EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(TandrelPromptTest, PersonalizeTellsThatItComesLater) {
+TEST_F(TandrelPromptTest, PersonalizeOpensTheFirstStageOfTheWizardAndItComesBackHere) {
   Start();
-  for (int index : {3, 4}) PressPicture(index);
-  const RecordingBoxes::Shown told{
-      "message", "Wumbly", "Putting your own photo into the game comes with a later version."};
-  EXPECT_EQ(boxes.shown, (std::vector<RecordingBoxes::Shown>{told, told}));
-  EXPECT_EQ(InView(), "TandrelPrompt");
+  for (int index : {3, 4}) {
+    PressPicture(index);
+    EXPECT_EQ(InView(), "frmSelectPicture") << index;
+    EXPECT_FALSE(Prompt().visible);
+    PressPicture(1);
+    EXPECT_EQ(InView(), "TandrelPrompt") << index;
+  }
+  EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(TandrelPromptTest, LabelsLightUpAndOpenPageAndMail) {

@@ -42,7 +42,8 @@ struct TestPlatform {
   Settings settings;
   Ports ports{files,         backend.clock,  backend.timers,      backend.random,
               backend.boxes, backend.gdi,    backend.direct_draw, backend.display_modes,
-              sounds,        backend.window, backend.forms,       backend.system};
+              sounds,        backend.window, backend.forms,       backend.system,
+              backend.picture_loader, backend.picture_saver};
   ContentFiles content{files, settings};
 };
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "backends/desktop/BoxParts.h"
 #include "backends/desktop/FormPainter.h"
 
 namespace quendle {
@@ -21,15 +22,6 @@ constexpr int kButtonHeight = 60;
 constexpr int kGap = 18;
 constexpr int kFontPoints = 14;
 constexpr int kSmallFontPoints = 10;
-constexpr int kBevelRings = 4;
-
-Control MakeControl(ControlKind kind, std::string name, const Rect& area) {
-  Control control;
-  control.kind = kind;
-  control.name = std::move(name);
-  control.area = area;
-  return control;
-}
 
 int TextHeight(TextPainter& text, const std::string& words, int points) {
   TextStyle style{LetterSize(points), false, false, {}};
@@ -55,27 +47,24 @@ void BoxForm::LayOut(TextPainter& text) {
     height = TextHeight(text, plan_.text, --points);
   }
   height = std::clamp(height, kFaceSize, kLargestHeight - kTextTop - below);
-  Control face = MakeControl(ControlKind::kImage, "face",
+  Control& face = AddControl(form_, ControlKind::kImage, "face",
                              {24, kTextTop, 24 + kFaceSize, kTextTop + kFaceSize});
   face.picture = "puppy";
   face.enabled = false;
-  form_.controls.push_back(face);
-  Control label = MakeControl(ControlKind::kLabel, "text",
+  Control& label = AddControl(form_, ControlKind::kLabel, "text",
                               {kTextLeft, kTextTop, kTextLeft + kTextWidth, kTextTop + height});
   label.text = plan_.text;
   label.font_size = points;
-  form_.controls.push_back(label);
   int y = kTextTop + height + kGap;
   if (plan_.input) {
-    Control field =
-        MakeControl(ControlKind::kText, "field", {kTextLeft, y, kWidth - 28, y + kFieldHeight});
+    Control& field = AddControl(form_, ControlKind::kText, "field",
+                                {kTextLeft, y, kWidth - 28, y + kFieldHeight});
     field.font_size = kFontPoints;
-    form_.controls.push_back(field);
     y += kFieldHeight + kGap;
   }
   form_.size = {kWidth, y + kButtonHeight + kGap};
   AddButtons();
-  AddBevel();
+  AddBevel(form_);
 }
 
 void BoxForm::AddButtons() {
@@ -84,29 +73,12 @@ void BoxForm::AddButtons() {
   int x = (kWidth - count * kButtonWidth - (count - 1) * kGap) / 2;
   int top = form_.size.height - kGap - kButtonHeight;
   for (const std::string& art : plan_.buttons) {
-    Control button = MakeControl(ControlKind::kPicture, "button",
+    Control& button = AddControl(form_, ControlKind::kPicture, "button",
                                  {x, top, x + kButtonWidth, top + kButtonHeight});
     button.picture = art;
-    form_.controls.push_back(button);
     x += kButtonWidth + kGap;
   }
   form_.focus = first_button_;
-}
-
-void BoxForm::AddBevel() {
-  auto add = [&](const Rect& area, int grey) {
-    Control line = MakeControl(ControlKind::kLine, "lines", area);
-    line.color = PackColor(grey, grey, grey);
-    form_.controls.push_back(line);
-  };
-  auto [width, height] = form_.size;
-  for (int i = 0; i < kBevelRings; ++i) {
-    bool inner = i == kBevelRings - 1;
-    add({i, i, width - i, i + 1}, inner ? 0xE0 : 0xC0);
-    add({i, i, i + 1, height - i}, inner ? 0xE0 : 0xC0);
-    add({i, height - 1 - i, width - i, height - i}, inner ? 0x80 : 0x40);
-    add({width - 1 - i, i, width - i, height - i}, inner ? 0x80 : 0x40);
-  }
 }
 
 std::string BoxForm::Typed() {

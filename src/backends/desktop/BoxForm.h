@@ -38,7 +38,6 @@ class BoxForm : public FormEvents {
  private:
   void LayOut(TextPainter& text);
   void AddButtons();
-  void AddBevel();
   void Highlight(int button);
   void MoveFocus(int step);
   Control& Button(int number);

@@ -22,7 +22,7 @@ struct Look {
   Rgba deep;
 };
 
-constexpr std::array<Look, 13> kLooks = {{{"play", "Play", kLeaf, kLeafDeep},
+constexpr std::array<Look, 20> kLooks = {{{"play", "Play", kLeaf, kLeafDeep},
                                           {"personalize", "Personalize", kOrange, kOrangeDeep},
                                           {"options", "Options", kLavender, kLavenderDeep},
                                           {"link", "Web page", kSky, kSkyDeep},
@@ -32,6 +32,13 @@ constexpr std::array<Look, 13> kLooks = {{{"play", "Play", kLeaf, kLeafDeep},
                                           {"cancel", "Cancel", kRose, kRoseDeep},
                                           {"next", "Next", kLeaf, kLeafDeep},
                                           {"back", "Back", kOrange, kOrangeDeep},
+                                          {"browse", "Browse...", kSky, kSkyDeep},
+                                          {"undo", "Undo", kLavender, kLavenderDeep},
+                                          {"reset", "Start over", kRose, kRoseDeep},
+                                          {"up", "", kSky, kSkyDeep},
+                                          {"down", "", kSky, kSkyDeep},
+                                          {"left", "", kSky, kSkyDeep},
+                                          {"right", "", kSky, kSkyDeep},
                                           {"minimise", "", kSun, kOrange},
                                           {"maximise", "", kLeaf, kLeafDeep},
                                           {"close", "", kRose, kRoseDeep}}};
@@ -40,6 +47,11 @@ Look LookOf(std::string_view name) {
   auto found =
       std::ranges::find_if(kLooks, [&](const Look& look) { return EqualsNoCase(look.name, name); });
   return found != kLooks.end() ? *found : Look{name, "", kSky, kSkyDeep};
+}
+
+// Their sign says it all.
+bool IsWordless(std::string_view name) {
+  return name == "up" || name == "down" || name == "left" || name == "right";
 }
 
 bool IsTitleButton(std::string_view name) {
@@ -117,6 +129,21 @@ void DrawIcon(Canvas& canvas, std::string_view name, Vec c, double r, bool happy
     DrawPhoto(canvas, c, r * 0.92);
   } else if (name == "options") {
     DrawGear(canvas, c, r * 0.98, happy ? kSun : kCream, kLavenderDeep);
+  } else if (name == "next" || name == "right") {
+    DrawArrow(canvas, c, r, 0, kWhite);
+  } else if (name == "down") {
+    DrawArrow(canvas, c, r, 90, kWhite);
+  } else if (name == "back" || name == "left") {
+    DrawArrow(canvas, c, r, 180, kWhite);
+  } else if (name == "up") {
+    DrawArrow(canvas, c, r, 270, kWhite);
+  } else if (name == "undo") {
+    DrawUndo(canvas, c, r, kWhite);
+  } else if (name == "browse") {
+    DrawFolder(canvas, c, r);
+  } else if (name == "reset") {
+    DrawCross(canvas, c, r * 0.8, kOutline);
+    DrawCross(canvas, {c.x, c.y - 1}, r * 0.74, kWhite);
   } else if (name == "link") {
     DrawGlobe(canvas, c, r);
   } else if (name == "ok" || name == "yes") {
@@ -174,7 +201,9 @@ void DrawButton(Canvas& canvas, TextPainter& text, std::string_view name, std::s
     DrawTitleSign(canvas, name, body.Centre(), body.Short() * 0.5);
     return;
   }
-  if (body.width < body.height * 1.6) {
+  if (IsWordless(name)) {
+    DrawIcon(canvas, name, body.Centre(), body.Short() * 0.36, state.highlighted);
+  } else if (body.width < body.height * 1.6) {
     DrawStanding(canvas, text, name, word, body, state);
   } else {
     DrawLying(canvas, text, name, word, body, state);

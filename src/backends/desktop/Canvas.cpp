@@ -92,7 +92,18 @@ Rgba Mix(Rgba a, Rgba b, double part) {
 Canvas::Canvas(Size size, double scale)
     : size_{std::max(size.width, 1), std::max(size.height, 1)},
       scale_(scale),
+      clip_{0, 0, size_.width, size_.height},
       pixels_(static_cast<std::size_t>(size_.width) * size_.height, 0xFFFFFFFFu) {}
+
+void Canvas::SetClip(const Rect& area) {
+  const auto pixel = [this](int value, int most) {
+    return std::clamp(static_cast<int>(std::lround(value * scale_)), 0, most);
+  };
+  clip_ = {pixel(area.left, size_.width), pixel(area.top, size_.height),
+           pixel(area.right, size_.width), pixel(area.bottom, size_.height)};
+}
+
+void Canvas::LiftClip() { clip_ = {0, 0, size_.width, size_.height}; }
 
 void Canvas::Clear(Rgba color) {
   std::ranges::fill(
@@ -131,7 +142,7 @@ void Canvas::FillRect(double x, double y, double width, double height, Rgba colo
 }
 
 void Canvas::Blend(int x, int y, Rgba color, int coverage) {
-  if (x < 0 || y < 0 || x >= size_.width || y >= size_.height) return;
+  if (!clip_.Holds({x, y})) return;
   std::uint32_t& pixel = pixels_[static_cast<std::size_t>(y) * size_.width + x];
   int alpha = color.a * coverage / 255;
   auto channel = [&](int shift, int value) {

@@ -38,6 +38,13 @@ class Canvas {
   void SetOrigin(Vec origin) { origin_ = origin; }
   Vec Origin() const { return origin_; }
 
+  // Shapes change only pixels within `area` (form units, from the form's corner) until the clip is
+  // lifted again.
+  void SetClip(const Rect& area);
+  void LiftClip();
+  // What may change, in pixels.
+  Rect PixelClip() const { return clip_; }
+
   void Clear(Rgba color);
   // Fills the inside of the path; overlapping outlines of one direction add up.
   void Fill(const Path& path, Rgba color);
@@ -47,7 +54,8 @@ class Canvas {
   void Stroke(const Path& path, double width, Rgba color);
   // Fills whole pixels from the rounded corners of a rectangle in form units, without smoothing.
   void FillRect(double x, double y, double width, double height, Rgba color);
-  // Lays a colour on one pixel; `coverage` 0 to 255. Pixels outside the picture are ignored.
+  // Lays a colour on one pixel; `coverage` 0 to 255. Pixels outside the picture or the clip are
+  // ignored.
   void Blend(int x, int y, Rgba color, int coverage);
 
   // Rows of 32-bit pixels, 0xFFRRGGBB.
@@ -67,6 +75,7 @@ class Canvas {
   Size size_;
   double scale_;
   Vec origin_;
+  Rect clip_;
   std::vector<std::uint32_t> pixels_;
 };
 

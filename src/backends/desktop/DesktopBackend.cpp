@@ -37,10 +37,11 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
       forms_(loop_, painter_),
       window_(
           std::make_shared<DesktopWindow>(options.window, screen_, gdi_.WindowContext(), painter_)),
-      boxes_(loop_, *window_, painter_, text_),
+      picture_saver_(files_),
+      boxes_(loop_, *window_, painter_, text_, picture_loader_),
       system_(LockFileOf(program, folders_.fallback), [this] { Beep(); }),
       ports_{files_,       clock_,         loop_.Timers(), random_,  boxes_, gdi_,
-             direct_draw_, display_modes_, filter_graphs_, *window_, forms_, system_} {
+             direct_draw_, display_modes_, filter_graphs_, *window_, forms_, system_, picture_loader_, picture_saver_} {
   if (!library_.HasVideo()) {
     throw FatalError("no display can be opened: " + library_.Problem());
   }

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "backends/codecs/PictureDecoderLoader.h"
 #include "backends/desktop/DesktopBoxes.h"
 #include "backends/desktop/DesktopClock.h"
 #include "backends/desktop/DesktopEventLoop.h"
@@ -16,6 +17,7 @@
 #include "backends/desktop/SdlLibrary.h"
 #include "backends/desktop/TextPainter.h"
 #include "backends/files/DiskFileSystem.h"
+#include "backends/raster/BitmapPictureSaver.h"
 #include "backends/raster/RasterDirectDraw.h"
 #include "backends/raster/RasterDisplayModes.h"
 #include "backends/raster/RasterGdi.h"
@@ -67,6 +69,8 @@ class DesktopBackend {
   FormPainter painter_;
   DesktopFormHost forms_;
   std::shared_ptr<DesktopWindow> window_;
+  PictureDecoderLoader picture_loader_;
+  BitmapPictureSaver picture_saver_;
   DesktopBoxes boxes_;
   DesktopSystem system_;
   Ports ports_;

@@ -3,9 +3,14 @@
 #include <SDL.h>
 
 #include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <optional>
 
+#include "backends/desktop/FileListing.h"
 #include "backends/desktop/FormWindow.h"
-
+#include "backends/desktop/NativeChooser.h"
+#include "backends/desktop/PictureChooser.h"
 #include "base/Text.h"
 
 namespace quendle {
@@ -26,6 +31,32 @@ class Overlay {
   FormInput* before_;
 };
 
+// Stands for a window of another program that all input is left to.
+class Deaf : public SdlEventTarget {
+ public:
+  std::uint32_t WindowId() const override { return 0; }
+  void HandleInput(const SDL_Event&) override {}
+  void HandleUpkeep(const SDL_Event&) override {}
+  void Settle() override {}
+  void HandleQuit() override {}
+};
+
+// Something that is looked after while a form stands.
+class Ticker {
+ public:
+  Ticker(TimerService& timers, const std::function<void()>& work)
+      : timers_(timers),
+        id_(timers.SetTimer(kTick, "DesktopBoxes", [work](int) { work(); })) {}
+  ~Ticker() { timers_.KillTimer(id_); }
+  Ticker(const Ticker&) = delete;
+  Ticker& operator=(const Ticker&) = delete;
+
+ private:
+  static constexpr Milliseconds kTick{50};
+  TimerService& timers_;
+  int id_;
+};
+
 }  // namespace
 
 void DesktopBoxes::MessageBox(const std::string& title, const std::string& text) {
@@ -42,8 +73,39 @@ std::string DesktopBoxes::InputBox(const std::string& title, const std::string& 
   return AskForText(title, prompt);
 }
 
-std::string DesktopBoxes::ChooseFile(const std::string& title) {
-  return AskForText(title, "Type where the file is, or drop it here.");
+std::string DesktopBoxes::ChooseFile(const std::string& title,
+                                     const std::vector<FileFilter>& filters) {
+  if (folder_.empty()) folder_ = PicturesFolder().string();
+  std::string path;
+  if (!ChooseNatively(title, filters, path)) path = ChooseInOwnForm(title, filters);
+  if (!path.empty()) folder_ = std::filesystem::path(path).parent_path().string();
+  return path;
+}
+
+// Our own windows are drawn while the desktop's chooser stands, but take no input.
+bool DesktopBoxes::ChooseNatively(const std::string& title, const std::vector<FileFilter>& filters,
+                                  std::string& path) {
+  NativeChooser chooser(title, filters, folder_);
+  bool running = chooser.IsRunning();
+  if (running) {
+    Deaf deaf;
+    DesktopEventLoop::Modal modal(loop_, deaf);
+    Ticker ticker(loop_.Timers(), [&] { running = chooser.IsRunning(); });
+    loop_.Run([&] { return !running; });
+  }
+  path = chooser.Answer();
+  return chooser.Served();
+}
+
+std::string DesktopBoxes::ChooseInOwnForm(const std::string& title,
+                                          const std::vector<FileFilter>& filters) {
+  const std::string patterns = filters.empty() ? "*" : filters.front().pattern;
+  PictureChooser chooser(title, patterns, folder_, loader_);
+  FormInput input(chooser.Record(), chooser);
+  const bool stood = text_.HasFont() && Stand(
+      input, [&] { return chooser.Answer().has_value(); },
+      [&] { return chooser.ReadNextPicture(); });
+  return stood ? *chooser.Answer() : "";
 }
 
 std::string DesktopBoxes::AskForText(const std::string& title, const std::string& prompt) {
@@ -55,27 +117,35 @@ int DesktopBoxes::Ask(BoxForm& box) {
   FormInput input(box.Record(), box);
   // The character of the key that brought the box up isn't meant for it.
   SDL_FlushEvent(SDL_TEXTINPUT);
-  if (window_.IsOpen()) {
-    AskOverFrame(box, input);
-  } else if (!text_.HasFont() || !AskInOwnWindow(box, input)) {
+  const auto done = [&] { return box.Answer().has_value(); };
+  const bool drawable = window_.IsOpen() || text_.HasFont();
+  if (!drawable || !Stand(input, done, {})) {
     const BoxForm::Plan& asked = box.Asked();
     return ShowSystemBox(asked.title, asked.text, asked.buttons);
   }
   return *box.Answer();
 }
 
-void DesktopBoxes::AskOverFrame(BoxForm& box, FormInput& input) {
-  Overlay overlay(window_, input);
-  DesktopEventLoop::Modal modal(loop_, window_);
-  loop_.Run([&] { return box.Answer().has_value(); });
-}
-
-bool DesktopBoxes::AskInOwnWindow(BoxForm& box, FormInput& input) {
+bool DesktopBoxes::Stand(FormInput& input, const std::function<bool()>& done,
+                         const std::function<bool()>& each_tick) {
+  std::optional<Ticker> ticker;
+  if (window_.IsOpen()) {
+    Overlay overlay(window_, input);
+    DesktopEventLoop::Modal modal(loop_, window_);
+    if (each_tick) ticker.emplace(loop_.Timers(), [&] { each_tick(); });
+    loop_.Run(done);
+    return true;
+  }
   auto own = std::make_shared<FormWindow>(painter_);
   if (!own->Show(&input)) return false;
   loop_.Add(own);
   DesktopEventLoop::Modal modal(loop_, *own);
-  loop_.Run([&] { return box.Answer().has_value(); });
+  if (each_tick) {
+    ticker.emplace(loop_.Timers(), [&] {
+      if (each_tick()) own->Refresh();
+    });
+  }
+  loop_.Run(done);
   return true;
 }
 

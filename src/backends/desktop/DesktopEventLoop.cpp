@@ -24,6 +24,8 @@ Uint32 WindowOf(const SDL_Event& event) {
     case SDL_MOUSEBUTTONDOWN:
     case SDL_MOUSEBUTTONUP:
       return event.button.windowID;
+    case SDL_MOUSEWHEEL:
+      return event.wheel.windowID;
     case SDL_DROPFILE:
       return event.drop.windowID;
     default:
@@ -38,7 +40,8 @@ bool IsInput(const SDL_Event& event) {
   }
   return event.type == SDL_KEYDOWN || event.type == SDL_KEYUP || event.type == SDL_TEXTINPUT ||
          event.type == SDL_MOUSEMOTION || event.type == SDL_MOUSEBUTTONDOWN ||
-         event.type == SDL_MOUSEBUTTONUP || event.type == SDL_DROPFILE;
+         event.type == SDL_MOUSEBUTTONUP || event.type == SDL_MOUSEWHEEL ||
+         event.type == SDL_DROPFILE;
 }
 
 bool IsUpkeep(const SDL_Event& event) {

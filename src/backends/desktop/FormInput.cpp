@@ -4,30 +4,17 @@
 #include <string>
 
 #include "backends/desktop/FormPointer.h"
+#include "backends/desktop/ScrollBar.h"
+#include "backends/desktop/Utf8Text.h"
 
 namespace quendle {
 namespace {
 
 constexpr std::size_t kLongestText = 1000;
 
-bool AnswersAtOnce(const Control& control) {
-  return control.kind == ControlKind::kImage || control.kind == ControlKind::kScroll;
-}
+constexpr int kWheelStep = 40;  // of a scroll bar's value, for one notch
 
-// The 8-bit character of typed text; characters that content can't hold are left out.
-std::string FromUtf8(std::string_view text) {
-  std::string bytes;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    auto lead = static_cast<unsigned char>(text[i]);
-    if (lead < 0x80) {
-      bytes += text[i];
-    } else if ((lead == 0xC2 || lead == 0xC3) && i + 1 < text.size()) {
-      auto next = static_cast<unsigned char>(text[++i]);
-      bytes += static_cast<char>((lead & 3) << 6 | (next & 0x3F));
-    }
-  }
-  return bytes;
-}
+bool AnswersAtOnce(const Control& control) { return control.kind == ControlKind::kImage; }
 
 }  // namespace
 
@@ -44,6 +31,7 @@ Control* FormInput::TextField() {
 }
 
 void FormInput::Move(Point at) {
+  if (ScrollTo(dragged_, at)) return;
   look_.over = ControlAt(form_, at);
   if (Control* control = ControlNumber(look_.over)) {
     events_.PointerOver(*control);
@@ -66,6 +54,10 @@ void FormInput::Down(Point at) {
   look_.over = ControlAt(form_, at);
   Control* control = ControlNumber(look_.over);
   if (control == nullptr) return;
+  if (ScrollTo(look_.over, at)) {
+    dragged_ = look_.over;
+    return;
+  }
   if (AnswersAtOnce(*control)) {
     PressAt(look_.over, at);
     return;
@@ -75,9 +67,15 @@ void FormInput::Down(Point at) {
 }
 
 void FormInput::Up(Point at) {
+  dragged_ = -1;
   if (look_.pressed < 0) return;
   look_.pressed = -1;
   if (pushed_.Holds(at)) PressAt(ControlAt(form_, at), at);
+}
+
+void FormInput::Wheel(int right, int down) {
+  WheelOne(true, right);
+  WheelOne(false, down);
 }
 
 void FormInput::Key(FormKey key) {
@@ -95,6 +93,31 @@ void FormInput::Type(std::string_view text) {
 void FormInput::Erase() {
   Control* field = TextField();
   if (field != nullptr && !field->text.empty()) field->text.pop_back();
+}
+
+void FormInput::Drop(const std::string& native_path) {
+  if (TextField() != nullptr) {
+    Type(native_path);
+  } else {
+    events_.Drop(native_path);
+  }
+}
+
+// Moves the knob of a scroll bar under the pointer; false for any other control.
+bool FormInput::ScrollTo(int position, Point at) {
+  Control* bar = ControlNumber(position);
+  if (bar == nullptr || bar->kind != ControlKind::kScroll) return false;
+  events_.Set(*bar, ScrollValueAt(*bar, at));
+  return true;
+}
+
+void FormInput::WheelOne(bool lying, int notches) {
+  auto found = std::ranges::find_if(form_.controls, [lying](const Control& control) {
+    return control.kind == ControlKind::kScroll && control.visible && control.enabled &&
+           IsLying(control) == lying;
+  });
+  if (notches == 0 || found == form_.controls.end()) return;
+  events_.Set(*found, std::clamp(found->value + notches * std::min(kWheelStep, 1 + found->maximum / 8), 0, found->maximum));
 }
 
 void FormInput::PressAt(int position, Point at) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "backends/desktop/FormPainter.h"
@@ -22,23 +23,33 @@ class FormInput {
   void Leave();
   void Down(Point at);
   void Up(Point at);
+  // The wheel: positive goes on to the right or down, in notches.
+  void Wheel(int right, int down);
   void Key(FormKey key);
   // Typed text (UTF-8) goes to the text field, if the form has one.
   void Type(std::string_view text);
   void Erase();
+  // A dropped file (UTF-8 path): to the text field, else to the form.
+  void Drop(const std::string& native_path);
   void Close() { events_.QueryClose(); }
   // Forgets pointer and push: the form left the screen.
-  void Reset() { look_ = {}; }
+  void Reset() {
+    look_ = {};
+    dragged_ = -1;
+  }
 
  private:
   Control* ControlNumber(int position);
   Control* TextField();
+  bool ScrollTo(int position, Point at);
+  void WheelOne(bool lying, int notches);
   void PressAt(int position, Point at);
 
   Form& form_;
   FormEvents& events_;
   FormLook look_;
   Rect pushed_;
+  int dragged_ = -1;  // position of the scroll bar whose knob is held, or -1
 };
 
 }  // namespace quendle

@@ -6,6 +6,8 @@
 #include "backends/desktop/ButtonArt.h"
 #include "backends/desktop/IconArt.h"
 #include "backends/desktop/Palette.h"
+#include "backends/desktop/PicturePainter.h"
+#include "backends/desktop/ScrollBar.h"
 
 namespace quendle {
 namespace {
@@ -102,8 +104,7 @@ void FormPainter::PaintControl(Canvas& canvas, const Control& control, bool pres
       PaintChoice(canvas, control, pressed, over);
       break;
     case ControlKind::kLine:
-      canvas.FillRect(control.area.left, control.area.top, std::max(control.area.Width(), 1),
-                      std::max(control.area.Height(), 1), FromColor(control.color));
+      PaintLine(canvas, control);
       break;
     case ControlKind::kScroll:
       PaintScroll(canvas, control);
@@ -112,16 +113,7 @@ void FormPainter::PaintControl(Canvas& canvas, const Control& control, bool pres
       PaintField(canvas, control);
       break;
     case ControlKind::kImage:
-      if (control.picture == "puppy") {
-        Vec centre{(control.area.left + control.area.right) / 2.0,
-                   (control.area.top + control.area.bottom) / 2.0};
-        canvas.Fill(Path::Ellipse(centre, control.area.Width() / 2.0, control.area.Width() / 2.0),
-                    kPeach);
-        DrawPuppy(canvas, centre, control.area.Width() * 0.42, false);
-        break;
-      }
-      canvas.Fill(Around(control.area, 0, 6), kPaper);
-      canvas.Stroke(Around(control.area, 0, 6), 2, kOutline);
+      PaintImage(canvas, control);
       break;
     case ControlKind::kFrame:
       break;
@@ -132,6 +124,53 @@ void FormPainter::PaintPicture(Canvas& canvas, const Control& control, bool pres
   bool highlighted = false;
   std::string name = ArtName(control.picture, highlighted);
   DrawButton(canvas, text_, name, control.text, control.area, {highlighted, pressed});
+}
+
+void FormPainter::PaintImage(Canvas& canvas, const Control& control) {
+  const Rect& area = control.area;
+  if (control.image != nullptr) {
+    const bool clipped = control.clip != Rect{};
+    if (clipped) canvas.SetClip(control.clip);
+    DrawPicture(canvas, *control.image, area);
+    canvas.LiftClip();
+    const Rect& rim = clipped ? control.clip : area;
+    canvas.Stroke(Around(rim, 1, 3), 2, kOutline);
+    return;
+  }
+  const Vec centre{(area.left + area.right) / 2.0, (area.top + area.bottom) / 2.0};
+  if (control.picture == "puppy") {
+    canvas.Fill(Path::Ellipse(centre, area.Width() / 2.0, area.Width() / 2.0), kPeach);
+    DrawPuppy(canvas, centre, area.Width() * 0.42, false);
+  } else if (control.picture == "folder") {
+    DrawFolder(canvas, centre, std::min(area.Width(), area.Height()) * 0.46);
+  } else {
+    canvas.Fill(Around(area, 0, 6), kPaper);
+    canvas.Stroke(Around(area, 0, 6), 2, kOutline);
+  }
+}
+
+// A stroke has a pale rim, so that it is seen on any photograph, and a dot at its end; one without
+// length is the dot alone.
+void FormPainter::PaintLine(Canvas& canvas, const Control& control) {
+  const Rect& area = control.area;
+  if (control.thickness == 0) {
+    canvas.FillRect(area.left, area.top, std::max(area.Width(), 1), std::max(area.Height(), 1),
+                    FromColor(control.color));
+    return;
+  }
+  if (control.clip != Rect{}) canvas.SetClip(control.clip);
+  const double width = control.thickness;
+  // The middle of the pixels it leads to.
+  const Vec from{area.left + 0.5, area.top + 0.5};
+  const Vec to{area.right + 0.5, area.bottom + 0.5};
+  const Path line = Path().MoveTo(from.x, from.y).LineTo(to.x, to.y);
+  canvas.Stroke(line, width + 2, kWhite);
+  canvas.Stroke(line, width, FromColor(control.color));
+  for (const Vec& end : {from, to}) {
+    canvas.Fill(Path::Ellipse(end, width + 1.5, width + 1.5), kWhite);
+    canvas.Fill(Path::Ellipse(end, width, width), FromColor(control.color));
+  }
+  canvas.LiftClip();
 }
 
 void FormPainter::PaintLabel(Canvas& canvas, const Control& control) {
@@ -204,17 +243,12 @@ void FormPainter::PaintFrame(Canvas& canvas, const Control& control) {
 }
 
 void FormPainter::PaintScroll(Canvas& canvas, const Control& control) {
-  const Rect& area = control.area;
-  bool lying = area.Width() >= area.Height();
-  double thick = lying ? area.Height() : area.Width();
-  double length = lying ? area.Width() : area.Height();
-  canvas.Fill(Around(area, 0, thick / 2), kPaper);
-  canvas.Stroke(Around(area, -1, thick / 2), 2, kOutline);
-  double part = control.maximum > 0 ? static_cast<double>(control.value) / control.maximum : 0;
-  double at = thick / 2 + (length - thick) * std::clamp(part, 0.0, 1.0);
-  Vec knob{area.left + (lying ? at : thick / 2), area.top + (lying ? thick / 2 : at)};
-  canvas.Fill(Path::Ellipse(knob, thick / 2 - 1, thick / 2 - 1), kOrange);
-  canvas.Stroke(Path::Ellipse(knob, thick / 2 - 1, thick / 2 - 1), 2, kOutline);
+  const double radius = KnobRadius(control);
+  canvas.Fill(Around(control.area, 0, radius), kPaper);
+  canvas.Stroke(Around(control.area, -1, radius), 2, kOutline);
+  const Path knob = Path::Ellipse(KnobCentre(control), radius - 1, radius - 1);
+  canvas.Fill(knob, kOrange);
+  canvas.Stroke(knob, 2, kOutline);
 }
 
 void FormPainter::PaintField(Canvas& canvas, const Control& control) {

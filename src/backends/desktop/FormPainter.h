@@ -32,6 +32,8 @@ class FormPainter {
   void PaintPicture(Canvas& canvas, const Control& control, bool pressed);
   void PaintLabel(Canvas& canvas, const Control& control);
   void PaintChoice(Canvas& canvas, const Control& control, bool pressed, bool over);
+  void PaintImage(Canvas& canvas, const Control& control);
+  void PaintLine(Canvas& canvas, const Control& control);
   void PaintFrame(Canvas& canvas, const Control& control);
   void PaintScroll(Canvas& canvas, const Control& control);
   void PaintField(Canvas& canvas, const Control& control);

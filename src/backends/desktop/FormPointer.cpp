@@ -18,12 +18,16 @@ bool Answers(const Control& control) {
   }
 }
 
+bool IsSeenAt(const Control& control, Point at) {
+  return control.area.Holds(at) && (control.clip == Rect{} || control.clip.Holds(at));
+}
+
 }  // namespace
 
 int ControlAt(const Form& form, Point at) {
   for (auto i = static_cast<int>(form.controls.size()) - 1; i >= 0; --i) {
     const Control& control = form.controls[static_cast<std::size_t>(i)];
-    if (Answers(control) && control.area.Holds(at)) return i;
+    if (Answers(control) && IsSeenAt(control, at)) return i;
   }
   return -1;
 }

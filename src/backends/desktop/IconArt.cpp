@@ -158,6 +158,40 @@ void DrawPlaySign(Canvas& canvas, Vec c, double r, Rgba color) {
   canvas.Stroke(sign, r * 0.26, color);
 }
 
+void DrawArrow(Canvas& canvas, Vec c, double r, double degrees, Rgba color) {
+  const Path arrow = Path::Polygon({{c.x - r * 0.8, c.y - r * 0.22},
+                                    {c.x + r * 0.05, c.y - r * 0.22},
+                                    {c.x + r * 0.05, c.y - r * 0.62},
+                                    {c.x + r * 0.8, c.y},
+                                    {c.x + r * 0.05, c.y + r * 0.62},
+                                    {c.x + r * 0.05, c.y + r * 0.22},
+                                    {c.x - r * 0.8, c.y + r * 0.22}})
+                         .Turned(c, degrees);
+  canvas.Stroke(arrow, LineWidth(r) * 2, kOutline);
+  canvas.Fill(arrow, color);
+}
+
+void DrawUndo(Canvas& canvas, Vec c, double r, Rgba color) {
+  const Path round = Path::Arc(c, r * 0.58, r * 0.58, 200, 480);
+  const Path head = Path::Polygon({{c.x - r * 0.92, c.y - r * 0.30},
+                                   {c.x - r * 0.16, c.y - r * 0.20},
+                                   {c.x - r * 0.62, c.y + r * 0.34}});
+  canvas.Stroke(round, r * 0.26 + LineWidth(r) * 2, kOutline);
+  canvas.Stroke(head, LineWidth(r) * 2, kOutline);
+  canvas.Stroke(round, r * 0.26, color);
+  canvas.Fill(head, color);
+}
+
+void DrawFolder(Canvas& canvas, Vec c, double r) {
+  const double line = LineWidth(r);
+  FillOutlined(canvas, Path::RoundRect(c.x - r * 0.9, c.y - r * 0.72, r * 0.8, r * 0.5, r * 0.1),
+               kOrangeDeep, line);
+  FillOutlined(canvas, Path::RoundRect(c.x - r * 0.9, c.y - r * 0.5, r * 1.8, r * 1.2, r * 0.12),
+               kSun, line);
+  canvas.Fill(Path::RoundRect(c.x - r * 0.8, c.y - r * 0.38, r * 1.6, r * 0.2, r * 0.08),
+              Hex(0xFFFFFF, 110));
+}
+
 void DrawTick(Canvas& canvas, Vec c, double r, Rgba color) {
   Path tick;
   tick.MoveTo(c.x - r * 0.6, c.y + r * 0.05);

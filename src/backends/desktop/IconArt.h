@@ -15,6 +15,11 @@ void DrawGear(Canvas& canvas, Vec centre, double radius, Rgba color, Rgba hole);
 void DrawGlobe(Canvas& canvas, Vec centre, double radius);
 // A triangle that points right: go on.
 void DrawPlaySign(Canvas& canvas, Vec centre, double radius, Rgba color);
+// An arrow that points right, turned by `degrees` clockwise.
+void DrawArrow(Canvas& canvas, Vec centre, double radius, double degrees, Rgba color);
+// An arrow that goes back round in a circle.
+void DrawUndo(Canvas& canvas, Vec centre, double radius, Rgba color);
+void DrawFolder(Canvas& canvas, Vec centre, double radius);
 void DrawTick(Canvas& canvas, Vec centre, double radius, Rgba color);
 void DrawCross(Canvas& canvas, Vec centre, double radius, Rgba color);
 

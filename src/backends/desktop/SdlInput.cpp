@@ -91,7 +91,10 @@ void SendToForm(const SDL_Event& event, FormInput& input, const FormPlace& place
       input.Type(event.text.text);
       break;
     case SDL_DROPFILE:
-      input.Type(event.drop.file);
+      input.Drop(event.drop.file);
+      break;
+    case SDL_MOUSEWHEEL:
+      input.Wheel(event.wheel.x, -event.wheel.y);
       break;
     case SDL_WINDOWEVENT:
       if (event.window.event == SDL_WINDOWEVENT_LEAVE) input.Leave();

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "backends/codecs/PictureDecoderLoader.h"
 #include "backends/headless/HeadlessFilterGraphs.h"
 #include "backends/headless/HeadlessFormHost.h"
 #include "backends/headless/HeadlessSystem.h"
@@ -11,6 +12,7 @@
 #include "backends/headless/ScriptedBoxes.h"
 #include "backends/headless/ScriptedRandom.h"
 #include "backends/headless/VirtualClock.h"
+#include "backends/raster/BitmapPictureSaver.h"
 #include "backends/raster/RasterDirectDraw.h"
 #include "backends/raster/RasterDisplayModes.h"
 #include "backends/raster/RasterGdi.h"
@@ -54,6 +56,8 @@ struct HeadlessBackend {
   HeadlessWindow window;
   HeadlessFormHost forms;
   HeadlessSystem system;
+  PictureDecoderLoader picture_loader;
+  BitmapPictureSaver picture_saver;
   Ports ports;
 };
 

@@ -96,6 +96,13 @@ bool HeadlessFormHost::Key(FormKey key) {
   return true;
 }
 
+bool HeadlessFormHost::Drop(const std::string& native_path) {
+  const Entry* entry = Reach();
+  if (entry == nullptr) return false;
+  entry->events->Drop(native_path);
+  return true;
+}
+
 bool HeadlessFormHost::Close() {
   const Entry* entry = Front();
   if (entry == nullptr) return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,6 +31,7 @@ class HeadlessFormHost : public FormHost {
   // Sets a radio (1 only), a check (0 or 1) or a scroll bar (0 to its maximum).
   bool Set(std::string_view control, int index, int value);
   bool Key(FormKey key);
+  bool Drop(const std::string& native_path);
   bool Close();
 
  private:

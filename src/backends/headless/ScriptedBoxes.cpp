@@ -26,8 +26,11 @@ std::string ScriptedBoxes::InputBox(const std::string& title, const std::string&
   return TextBox({"input", title, prompt, ""}, NextAnswer(""));
 }
 
-std::string ScriptedBoxes::ChooseFile(const std::string& title) {
-  return TextBox({"file", title, "", ""}, NextAnswer("cancel"));
+std::string ScriptedBoxes::ChooseFile(const std::string& title,
+                                      const std::vector<FileFilter>& filters) {
+  std::string text;
+  for (const FileFilter& filter : filters) text += (text.empty() ? "" : "\n") + filter.name;
+  return TextBox({"file", title, text, ""}, NextAnswer("cancel"));
 }
 
 std::vector<ShownBox> ScriptedBoxes::TakeShown() { return std::exchange(shown_, {}); }

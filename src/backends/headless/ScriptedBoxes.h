@@ -26,7 +26,8 @@ class ScriptedBoxes : public Boxes {
   // "yes" and "ok" are Yes, any other answer is No.
   bool YesNoBox(const std::string& title, const std::string& text) override;
   std::string InputBox(const std::string& title, const std::string& prompt) override;
-  std::string ChooseFile(const std::string& title) override;
+  // The record's text names the filters, one a line.
+  std::string ChooseFile(const std::string& title, const std::vector<FileFilter>& filters) override;
 
   // The answer of the next box that has none yet: a button, a text, a path, or "cancel".
   void QueueAnswer(std::string answer) { answers_.push_back(std::move(answer)); }

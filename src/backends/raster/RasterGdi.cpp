@@ -1,10 +1,12 @@
 #include "backends/raster/RasterGdi.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
 #include "backends/raster/BitmapReader.h"
 #include "backends/raster/BlockCopy.h"
+#include "backends/raster/PolygonSpans.h"
 #include "backends/raster/RasterScreen.h"
 #include "platform/FileSystem.h"
 
@@ -133,15 +135,63 @@ Color RasterGdi::GetPixel(ContextHandle context, Point at) {
 void RasterGdi::SetPixel(ContextHandle context, Point at, Color color) {
   Context* target = FindDrawable(context);
   if (target == nullptr || !Inside(*target->bitmap, at)) return;
-  std::uint32_t word = WordOf(color);
-  if (target->bitmap->Format() == PixelFormat::kMonochrome) word = MonochromeWord(color);
-  if (target->bitmap->Format() == PixelFormat::kColor565) word = ReduceTo565(word);
-  *target->bitmap->WritableAt(at.x, at.y) = word;
+  *target->bitmap->WritableAt(at.x, at.y) = WordOn(*target->bitmap, color);
 }
 
 Color RasterGdi::SetBkColor(ContextHandle context, Color color) {
   Context* target = Find(context);
   return target == nullptr ? kInvalidColor : std::exchange(target->background, color);
+}
+
+BitmapHandle RasterGdi::CreatePictureBitmap(const Picture& picture) {
+  if (picture.Empty() || faults_.Fails("CreatePictureBitmap")) return 0;
+  PixelBuffer pixels = std::make_unique_for_overwrite<std::uint32_t[]>(picture.words.size());
+  std::ranges::copy(picture.words, pixels.get());
+  bitmaps_.emplace(++last_handle_,
+                   std::make_shared<RasterBitmap>(picture.size.width, picture.size.height,
+                                                  std::move(pixels)));
+  return last_handle_;
+}
+
+Picture RasterGdi::ReadBitmap(BitmapHandle bitmap) {
+  auto found = bitmaps_.find(bitmap);
+  if (found == bitmaps_.end()) return {};
+  const RasterBitmap& source = *found->second;
+  const std::size_t count = static_cast<std::size_t>(source.Width()) * source.Height();
+  Picture picture{source.GetSize(), {source.Pixels(), source.Pixels() + count}};
+  if (source.Format() == PixelFormat::kMonochrome) {
+    for (std::uint32_t& word : picture.words) word = word != 0 ? 0xFFFFFF : 0;
+  }
+  return picture;
+}
+
+RegionHandle RasterGdi::CreateRectRgn(const Rect& area) {
+  regions_.emplace(++last_handle_, std::vector<Point>{{area.left, area.top},
+                                                      {area.right, area.top},
+                                                      {area.right, area.bottom},
+                                                      {area.left, area.bottom}});
+  return last_handle_;
+}
+
+RegionHandle RasterGdi::CreatePolygonRgn(std::span<const Point> corners) {
+  if (corners.size() < 3 || faults_.Fails("CreatePolygonRgn")) return 0;
+  regions_.emplace(++last_handle_, std::vector<Point>(corners.begin(), corners.end()));
+  return last_handle_;
+}
+
+void RasterGdi::DeleteRegion(RegionHandle region) { regions_.erase(region); }
+
+bool RasterGdi::FillRgn(ContextHandle context, RegionHandle region, Color brush) {
+  Context* target = FindDrawable(context);
+  auto found = regions_.find(region);
+  if (target == nullptr || found == regions_.end() || faults_.Fails("FillRgn")) return false;
+  RasterBitmap& bitmap = *target->bitmap;
+  const std::uint32_t word = WordOn(bitmap, brush);
+  for (const PolygonSpan& span : PolygonSpans(found->second, bitmap.Bounds())) {
+    std::fill_n(bitmap.WritableAt(span.left, span.y), span.right - span.left, word);
+  }
+  Drawn(*target);
+  return true;
 }
 
 RasterGdi::Context* RasterGdi::Find(ContextHandle context) {
@@ -163,6 +213,17 @@ BitmapHandle RasterGdi::AddBitmap(int width, int height, PixelFormat format) {
   if (!RasterBitmap::SizeIsLawful(width, height)) return 0;
   bitmaps_.emplace(++last_handle_, std::make_shared<RasterBitmap>(width, height, format));
   return last_handle_;
+}
+
+std::uint32_t RasterGdi::WordOn(const RasterBitmap& bitmap, Color color) {
+  switch (bitmap.Format()) {
+    case PixelFormat::kMonochrome:
+      return MonochromeWord(color);
+    case PixelFormat::kColor565:
+      return ReduceTo565(WordOf(color));
+    default:
+      return WordOf(color);
+  }
 }
 
 void RasterGdi::Drawn(const Context& context) {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "backends/raster/RasterBitmap.h"
 #include "platform/Faults.h"
@@ -30,6 +31,7 @@ class RasterGdi : public Gdi {
   // How many handles are alive beside the window's, to find leaks.
   std::size_t LiveContexts() const { return contexts_.size() - 1; }
   std::size_t LiveBitmaps() const { return bitmaps_.size(); }
+  std::size_t LiveRegions() const { return regions_.size(); }
 
   BitmapHandle LoadImageA(const std::string& path) override;
   std::string WhyNotLoaded() const override { return why_not_loaded_; }
@@ -48,6 +50,12 @@ class RasterGdi : public Gdi {
   Color GetPixel(ContextHandle context, Point at) override;
   void SetPixel(ContextHandle context, Point at, Color color) override;
   Color SetBkColor(ContextHandle context, Color color) override;
+  BitmapHandle CreatePictureBitmap(const Picture& picture) override;
+  Picture ReadBitmap(BitmapHandle bitmap) override;
+  RegionHandle CreateRectRgn(const Rect& area) override;
+  RegionHandle CreatePolygonRgn(std::span<const Point> corners) override;
+  void DeleteRegion(RegionHandle region) override;
+  bool FillRgn(ContextHandle context, RegionHandle region, Color brush) override;
 
  private:
   struct Context {
@@ -62,6 +70,8 @@ class RasterGdi : public Gdi {
   Context* FindDrawable(ContextHandle context);
   ContextHandle AddContext(Context context);
   BitmapHandle AddBitmap(int width, int height, PixelFormat format);
+  // The word that stands for a colour on a bitmap.
+  static std::uint32_t WordOn(const RasterBitmap& bitmap, Color color);
   // Tells the screen when the window was drawn on.
   void Drawn(const Context& context);
 
@@ -70,6 +80,7 @@ class RasterGdi : public Gdi {
   Faults& faults_;
   std::unordered_map<ContextHandle, Context> contexts_;
   std::unordered_map<BitmapHandle, std::shared_ptr<RasterBitmap>> bitmaps_;
+  std::unordered_map<RegionHandle, std::vector<Point>> regions_;  // the corners of its outline
   std::int32_t last_handle_ = 0;
   ContextHandle window_context_ = 0;
   std::string why_not_loaded_;

@@ -1,0 +1,26 @@
+// Cuts a face out of a photograph.
+#pragma once
+
+#include <vector>
+
+#include "platform/Gdi.h"
+
+namespace quendle {
+
+inline constexpr Size kFaceSize{32, 32};
+// What isn't the child: the game leaves this colour out when it draws.
+inline constexpr Color kPersonKey = PackColor(200, 200, 200);
+
+// The smallest box with all points: left and top are the least, right and bottom the greatest
+// coordinates. 0 by 0 without points.
+Rect BoundingBox(const std::vector<Point>& points);
+
+// Shrinks the top left `from` of `source` to the top left `to` of `target`, pixel by pixel.
+void Resize(Gdi& gdi, ContextHandle target, ContextHandle source, Size from, Size to);
+
+// The box around the points (pixels of the photograph) shrunk to the face: inside the outline the
+// photograph, outside the key colour. Fewer than three points outline nothing: the face is all key
+// colour, and black when their box is empty.
+Picture CutFace(Gdi& gdi, ContextHandle photograph, const std::vector<Point>& points);
+
+}  // namespace quendle

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "personalize/MemoryBitmap.h"
+#include "personalize/Outline.h"
+#include "personalize/WizardForm.h"
+
+namespace quendle {
+
+class frmEditDoctorCursor;
+class frmSelectPicture;
+
+// Stage 2 of the wizard: a line is clicked around the face in the photograph, and the face inside
+// it becomes the 32 by 32 picture of the game.
+class frmPartitionPicture : public WizardForm {
+ public:
+  // Stage 1 owns this one.
+  frmPartitionPicture(const PersonalizeServices& services, frmSelectPicture& select);
+  ~frmPartitionPicture() override;
+
+  // Loads a photograph and fits the scroll bars. Without a path, or when the file can't be used, it
+  // tells so and goes back to stage 1.
+  void LoadImage(const std::string& path);
+  // Removes the whole outline.
+  void ResetLines();
+  // Names the outline; an empty answer changes nothing. No button leads here.
+  void AskRegionName();
+
+  const std::string& RegionName() const { return region_name_; }
+  std::int16_t RegionFlag() const { return region_flag_; }
+
+  void Press(Control& control, Point at) override;
+  void Set(Control& control, int value) override;
+
+ protected:
+  void Previous() override { PartitionCommand("Previous"); }
+  void Next() override { PartitionCommand("Next"); }
+  void StageButton() override { PartitionCommand("UndoLine"); }
+  void FurtherButton(int) override { PartitionCommand("ResetLines"); }
+
+ private:
+  void PartitionCommand(std::string_view command);
+  void BackToSelection();
+  void CutAndGoOn();
+  bool OutlineIsWanted();
+  void UndoLine();
+  void AddPoint(Point pixel);
+  void ShowLine(const PolygonLine& line);
+  void PlaceLine(const PolygonLine& line);
+  void DropUnusedShapes();
+  void FitScrollBars();
+  void ScrollTo();
+  void RepositionLines();
+  Control& Image() { return *form_.Find("Image1"); }
+
+  frmSelectPicture& select_;
+  Outline outline_;
+  SharedPicture picture_;                     // what Image1 shows
+  std::unique_ptr<MemoryBitmap> photograph_;  // the same, to be cut
+  Rect view_;                                 // where the photograph is seen
+  std::int32_t scroll_x_ = 0;                 // twips
+  std::int32_t scroll_y_ = 0;
+  std::string region_name_;
+  std::int16_t region_flag_ = 0;
+  // Made when it is first gone on to.
+  std::unique_ptr<frmEditDoctorCursor> edit_;
+};
+
+}  // namespace quendle
