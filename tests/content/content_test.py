@@ -196,7 +196,7 @@ class ClinicTest(unittest.TestCase):
             if (w, h) == ("800", "600"):
                 screens += 1
                 self.assertFalse(Bitmap(MADE / f"{picture}.bmp").holds(KEY), picture)
-        self.assertEqual(screens, 8)
+        self.assertEqual(screens, 12)
 
     def test_every_edition_finds_its_treatments_in_both_variants(self):
         folder = SOURCE / "Info/GlobalReferences/scripts"
