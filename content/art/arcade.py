@@ -95,7 +95,7 @@ def shooter_room():
     out += flat("M-10,470Q200,420 400,452T810,440V610H-10Z", light(GREEN, 0.35)) + stroke("M-10,470Q200,420 400,452T810,440", OUTLINE, 4)
     for x in range(20, 800, 46):
         out += stroke(f"M{x},{506 + x * 7 % 60}l6,-16", shade(GREEN, 0.3), 4)
-    return out + shadow(690, 470, 84, 10) + move(dog("sad", "cut"), 570, 182)
+    return out + shadow(660, 470, 84, 10) + move(dog("sad", "cut"), 540, 182)
 
 
 # --- mud and bubble -------------------------------------------------------------------------------
@@ -184,7 +184,7 @@ def bobble_room():
     out += flat("M0,360Q200,300 420,346T800,320V600H0Z", light(GREEN, 0.35)) + stroke("M0,360Q200,300 420,346T800,320", OUTLINE)
     out += tree(56, 420, 0.95) + tree(752, 414, 0.9)
     out += flat("M0,470Q300,420 800,474V600H0Z", GREEN) + stroke("M0,470Q300,420 800,474", OUTLINE)
-    out += shadow(400, 566, 100, 10) + move(cat("sad", "fleas"), 280, 272)
+    out += shadow(400, 566, 100, 10) + move(cat("sad", "plain"), 280, 272)
     for x, y, c in ((90, 540, PINK), (180, 500, YELLOW), (250, 570, WHITE), (560, 520, CORAL), (640, 570, PINK), (730, 520, YELLOW)):
         out += flower(x, y, c, 0.95)
     return out
