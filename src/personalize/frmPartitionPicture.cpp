@@ -219,8 +219,7 @@ void frmPartitionPicture::ScrollTo() {
   scroll_x_ = form_.Find("HScroll1")->value * kScrollStep;
   scroll_y_ = form_.Find("VScroll1")->value * kScrollStep;
   const Size size = picture_->size;
-  const int left =
-      view_.left + Centred(view_.Width(), size.width) - scroll_x_ / kTwipsPerPixel;
+  const int left = view_.left + Centred(view_.Width(), size.width) - scroll_x_ / kTwipsPerPixel;
   const int top = view_.top + Centred(view_.Height(), size.height) - scroll_y_ / kTwipsPerPixel;
   Image().area = {left, top, left + size.width, top + size.height};
   Image().clip = view_;

@@ -98,7 +98,8 @@ TEST_F(frmEditDoctorCursorTest, AMissingOrDamagedSuitIsFatal) {
   ToPartition();
   Click(kOutline);
   files.Put(std::string(kFolder) + "doctorsuit.bmp", "BM nonsense");
-  EXPECT_THAT(FatalOf([&] { PressPicture(3); }), testing::HasSubstr("doctorsuit.bmp can't be loaded"));
+  EXPECT_THAT(FatalOf([&] { PressPicture(3); }),
+              testing::HasSubstr("doctorsuit.bmp can't be loaded"));
 }
 
 TEST_F(frmEditDoctorCursorTest, OnlyTheTwoPicturesAreWrittenAndTheyHoldNothingButPixels) {

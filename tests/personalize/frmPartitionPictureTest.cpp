@@ -29,8 +29,8 @@ bool Inside(const std::vector<Point>& outline, int x, int y) {
   for (std::size_t i = 0; i < outline.size(); ++i) {
     const Point a = outline[i];
     const Point b = outline[(i + 1) % outline.size()];
-    const long cross = static_cast<long>(b.x - a.x) * (y - a.y) -
-                       static_cast<long>(x - a.x) * (b.y - a.y);
+    const long cross =
+        static_cast<long>(b.x - a.x) * (y - a.y) - static_cast<long>(x - a.x) * (b.y - a.y);
     if (a.y <= y && y < b.y && cross <= 0) ++winding;
     if (b.y <= y && y < a.y && cross >= 0) --winding;
   }
@@ -48,9 +48,8 @@ int Shrunk(const std::vector<std::vector<std::uint32_t>>& box, int i, int j, int
   const int x1 = x0 + 1 < width ? x0 + 1 : x0;
   const int y1 = y0 + 1 < height ? y0 + 1 : y0;
   const auto value = [&](int x, int y) {
-    return static_cast<double>(box[static_cast<std::size_t>(x)][static_cast<std::size_t>(y)] >>
-                                   shift &
-                               255);
+    return static_cast<double>(
+        box[static_cast<std::size_t>(x)][static_cast<std::size_t>(y)] >> shift & 255);
   };
   const double right = u - x0;
   const double lower = v - y0;
@@ -96,8 +95,8 @@ class frmPartitionPictureTest : public ::testing::Test, public WizardBench {
 };
 
 TEST_F(frmPartitionPictureTest, ALargeFaceIsCutAndShrunkPixelByPixel) {
-  const std::vector<Point> outline = {{60, 20}, {140, 35}, {171, 90}, {120, 163}, {50, 150},
-                                      {31, 77}};
+  const std::vector<Point> outline = {{60, 20},   {140, 35}, {171, 90},
+                                      {120, 163}, {50, 150}, {31, 77}};
   EXPECT_TRUE(CutOut(outline) == ExpectedFace(outline));
   EXPECT_EQ(InView(), "frmEditDoctorCursor");
 }
@@ -133,8 +132,7 @@ TEST_F(frmPartitionPictureTest, OnePointGivesBlackAndTwoGiveGrey) {
   PressPicture(1);  // back from stage 3, which drops the outline
   Click({{10, 10}, {50, 60}});
   PressPicture(3);
-  EXPECT_TRUE(Written("face.bmp") ==
-              (Picture{{32, 32}, std::vector<std::uint32_t>(1024, kGrey)}));
+  EXPECT_TRUE(Written("face.bmp") == (Picture{{32, 32}, std::vector<std::uint32_t>(1024, kGrey)}));
   ASSERT_EQ(boxes.Shown().size(), 3u) << "the chooser, and a question for each";
   EXPECT_NE(boxes.Shown()[2].text.find("at least three points"), std::string::npos);
 }
@@ -218,8 +216,8 @@ TEST_F(frmPartitionPictureTest, OutlineAndPhotographScrollTogetherAndEveryPixelI
   ASSERT_TRUE(host.Set("VScroll1", 0, 7));
   EXPECT_EQ(At("Image1").area.left, before.left - right);
   EXPECT_EQ(At("Image1").area.top, before.top - 7);
-  EXPECT_EQ(At("Line1", 2).area, (Rect{line.left - right, line.top - 7, line.right - right,
-                                       line.bottom - 7}));
+  EXPECT_EQ(At("Line1", 2).area,
+            (Rect{line.left - right, line.top - 7, line.right - right, line.bottom - 7}));
   EXPECT_EQ(At("Image1").area.right, At("Image1").clip.right) << "the last column is seen";
   host.Set("VScroll1", 0, At("VScroll1").maximum);
   EXPECT_EQ(At("Image1").area.bottom, At("Image1").clip.bottom) << "and the last row";
@@ -289,7 +287,8 @@ TEST_F(frmPartitionPictureTest, APlaceThatCantBeWrittenIsFatal) {
   ToPartition();
   Click({{1, 1}, {20, 2}, {3, 30}});
   faults.Plan("write", 0, 0, false);
-  EXPECT_THAT(FatalOf([&] { PressPicture(3); }), testing::HasSubstr("face.bmp could not be written"));
+  EXPECT_THAT(FatalOf([&] { PressPicture(3); }),
+              testing::HasSubstr("face.bmp could not be written"));
 }
 
 TEST_F(frmPartitionPictureTest, NothingIsLeftInTheContextsAfterACut) {

@@ -111,10 +111,20 @@ TEST(FaultBox, NothingIsDrawnWhileTheBoxOfAFaultStands) {
   TickingBoxes boxes(backend);
   PutSmallClinic(platform.files);
   platform.files.Put("\\DialogMode.txt", "On\n");
-  Ports ports{platform.files,  backend.clock,  backend.timers,      backend.random,
-              boxes,           backend.gdi,    backend.direct_draw, backend.display_modes,
-              platform.graphs, backend.window, backend.forms,       backend.system,
-              backend.picture_loader, backend.picture_saver};
+  Ports ports{platform.files,
+              backend.clock,
+              backend.timers,
+              backend.random,
+              boxes,
+              backend.gdi,
+              backend.direct_draw,
+              backend.display_modes,
+              platform.graphs,
+              backend.window,
+              backend.forms,
+              backend.system,
+              backend.picture_loader,
+              backend.picture_saver};
   Application application(ports, 2, kBase);
   application.Start();
   application.Deliver([&] { backend.forms.Press("Picture1", 1); });

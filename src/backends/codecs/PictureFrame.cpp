@@ -80,9 +80,7 @@ class FrameReader {
   }
   int RowShift(int component) const { return IsCoarse(component) ? format_.log2_chroma_h : 0; }
   int ColumnShift(int component) const { return IsCoarse(component) ? format_.log2_chroma_w : 0; }
-  int ComponentWidth(int component) const {
-    return -((-frame_.width) >> ColumnShift(component));
-  }
+  int ComponentWidth(int component) const { return -((-frame_.width) >> ColumnShift(component)); }
   int Value(int component, int x) const {
     return row_.components[static_cast<std::size_t>(component)]
                           [static_cast<std::size_t>(x >> ColumnShift(component))];
@@ -144,10 +142,10 @@ Picture Upright(Picture picture, int orientation) {
   Picture upright{lying ? Size{height, width} : picture.size, {}};
   upright.words.reserve(picture.words.size());
   // Where in the stored picture a point of the upright one is found.
-  const bool from_right = orientation == 2 || orientation == 3 || orientation == 7 ||
-                          orientation == 8;
-  const bool from_below = orientation == 3 || orientation == 4 || orientation == 6 ||
-                          orientation == 7;
+  const bool from_right =
+      orientation == 2 || orientation == 3 || orientation == 7 || orientation == 8;
+  const bool from_below =
+      orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
   for (int y = 0; y < upright.size.height; ++y) {
     for (int x = 0; x < upright.size.width; ++x) {
       const int column = lying ? y : x;

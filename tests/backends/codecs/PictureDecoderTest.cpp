@@ -87,11 +87,13 @@ TEST(PictureDecoder, EachWayToHoldACameraIsTurnedBack) {
 }
 
 TEST(PictureDecoder, AGifIsDecodedOnWhite) {
-  const std::string gif = Bytes({71, 73, 70, 56, 57, 97, 3, 0, 2, 0, 241, 0, 0, 255, 0, 0, 0, 255, 0, 0, 0, 255, 0, 0, 0, 33, 249, 4, 1, 0, 0, 3, 0, 44, 0, 0, 0, 0, 3, 0, 2, 0, 0, 2, 3, 68, 134, 82, 0, 59});
+  const std::string gif =
+      Bytes({71,  73, 70, 56, 57,  97, 3, 0, 2,  0,   241, 0,  0,   255, 0, 0, 0,
+             255, 0,  0,  0,  255, 0,  0, 0, 33, 249, 4,   1,  0,   0,   3, 0, 44,
+             0,   0,  0,  0,  3,   0,  2, 0, 0,  2,   3,   68, 134, 82,  0, 59});
   const DecodedPicture decoded = DecodePicture(gif);
   ASSERT_EQ(decoded.problem, "");
-  EXPECT_TRUE(decoded.picture ==
-              (Picture{{3, 2}, {kRed, kGreen, kWhite, kWhite, kWhite, kBlue}}));
+  EXPECT_TRUE(decoded.picture == (Picture{{3, 2}, {kRed, kGreen, kWhite, kWhite, kWhite, kBlue}}));
 }
 
 TEST(PictureDecoder, ABitmapOf24BitsIsDecoded) {
@@ -102,10 +104,10 @@ TEST(PictureDecoder, ABitmapOf24BitsIsDecoded) {
 }
 
 TEST(PictureDecoder, ABitmapOfTwoColoursIsDecoded) {
-  std::string bitmap = "BM" + Bytes({70, 0, 0, 0, 0, 0, 0, 0, 62, 0, 0, 0, 40, 0, 0, 0,
-                                     3,  0, 0, 0, 2, 0, 0, 0, 1,  0, 1, 0, 0,  0, 0, 0,
-                                     8,  0, 0, 0, 0, 0, 0, 0, 0,  0, 0, 0, 2,  0, 0, 0,
-                                     0,  0, 0, 0, 0, 0, 255, 0, 255, 0, 0, 0});
+  std::string bitmap =
+      "BM" + Bytes({70, 0, 0, 0, 0, 0, 0, 0, 62, 0, 0, 0, 40, 0, 0,   0, 3,   0, 0, 0,
+                    2,  0, 0, 0, 1, 0, 1, 0, 0,  0, 0, 0, 8,  0, 0,   0, 0,   0, 0, 0,
+                    0,  0, 0, 0, 2, 0, 0, 0, 0,  0, 0, 0, 0,  0, 255, 0, 255, 0, 0, 0});
   bitmap += Bytes({0x40, 0, 0, 0, 0xA0, 0, 0, 0});  // from below: red blue red, blue red blue
   const DecodedPicture decoded = DecodePicture(bitmap);
   ASSERT_EQ(decoded.problem, "");
@@ -147,8 +149,8 @@ TEST(PictureDecoder, BrokenBytesGiveAPictureOrAProblemAndNothingWorse) {
 
 TEST(PictureDecoder, MoreThanFiftyMillionPointsAreRefusedBeforeAnythingIsDecoded) {
   const std::string jpeg =
-      Bytes({0xFF, 0xD8, 0xFF, 0xC0, 0, 17, 8, 0x27, 0x10, 0x27, 0x10, 3, 1, 0x22, 0,
-             2, 0x11, 1, 3, 0x11, 1, 0xFF, 0xDA, 0, 2, 0xFF, 0xD9});
+      Bytes({0xFF, 0xD8, 0xFF, 0xC0, 0, 17,   8, 0x27, 0x10, 0x27, 0x10, 3,    1,   0x22,
+             0,    2,    0x11, 1,    3, 0x11, 1, 0xFF, 0xDA, 0,    2,    0xFF, 0xD9});
   EXPECT_NE(DecodePicture(jpeg).problem.find("too large: it has 100 million points"),
             std::string::npos);
   const std::string gif = "GIF89a" + Bytes({0xFF, 0xFF, 0xFF, 0xFF, 0, 0, 0});

@@ -16,8 +16,8 @@ int Winding(const std::vector<Point>& corners, Point at) {
   for (std::size_t i = 0; i < corners.size(); ++i) {
     const Point a = corners[i];
     const Point b = corners[(i + 1) % corners.size()];
-    const std::int64_t side = std::int64_t{b.x - a.x} * (at.y - a.y) -
-                              std::int64_t{at.x - a.x} * (b.y - a.y);
+    const std::int64_t side =
+        std::int64_t{b.x - a.x} * (at.y - a.y) - std::int64_t{at.x - a.x} * (b.y - a.y);
     // A point on an edge lies right of it: left edges belong to the region.
     if (a.y <= at.y && at.y < b.y && side <= 0) ++winding;
     if (b.y <= at.y && at.y < a.y && side >= 0) --winding;
