@@ -49,8 +49,7 @@ frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
            "    Locate the face in the picture and click around the edges to form an outline. ",
            {130, 50, 762, 74});
   AddLabel(form_, "lblHelp",
-           "Click point by point, all the way round. The last point is joined to the first one by "
-           "itself.",
+           "Click all the way round: the outline closes by itself. The bars move the photograph.",
            {146, 74, 762, 98});
   AddPicturePair(form_, 5, "undo", "Undo", {222, 520, 382, 572});
   AddPicturePair(form_, 13, "reset", "Start over", {398, 520, 558, 572});

@@ -55,7 +55,12 @@ class FrameReader {
     int red = Value(0, x);
     int green = red;
     int blue = red;
-    if (colors_are_rgb_) {
+    if (palette_) {
+      // Entries of a palette lie the other way round: blue comes first.
+      red = Value(2, x);
+      green = Value(1, x);
+      blue = Value(0, x);
+    } else if (colors_are_rgb_) {
       green = Value(1, x);
       blue = Value(2, x);
     } else if (count_ >= 3) {
