@@ -7,6 +7,7 @@ extern "C" {
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <utility>
 
 namespace quendle {
@@ -27,10 +28,9 @@ class FrameReader {
         format_(format),
         count_(format.nb_components),
         palette_((format.flags & AV_PIX_FMT_FLAG_PAL) != 0),
-        colors_are_rgb_((format.flags & AV_PIX_FMT_FLAG_RGB) != 0 || palette_),
-        has_alpha_((format.flags & AV_PIX_FMT_FLAG_ALPHA) != 0 || palette_),
+        colors_are_rgb_((format.flags & AV_PIX_FMT_FLAG_RGB) != 0),
+        has_alpha_((format.flags & AV_PIX_FMT_FLAG_ALPHA) != 0),
         limited_range_(frame.color_range == AVCOL_RANGE_MPEG) {
-    if (palette_) count_ = kMostComponents;
     for (auto& component : row_.components) component.resize(Columns());
     // A frame has room for more planes than any picture has.
     std::copy_n(frame.data, planes_.size(), planes_.begin());
@@ -41,10 +41,10 @@ class FrameReader {
     for (int c = 0; c < count_; ++c) {
       std::vector<std::uint16_t>& values = row_.components[static_cast<std::size_t>(c)];
       av_read_image_line(values.data(), planes_.data(), strides_.data(), &format_, 0,
-                         y >> RowShift(c), c, ComponentWidth(c), palette_ ? 1 : 0);
-      const int depth = palette_ ? 8 : format_.comp[c].depth;
+                         y >> RowShift(c), c, ComponentWidth(c), 0);
+      const int depth = format_.comp[c].depth;
       const int most = (1 << depth) - 1;
-      if (depth == 8) continue;
+      if (depth == 8 || palette_) continue;
       for (std::uint16_t& value : values) {
         value = static_cast<std::uint16_t>((value * 255 + most / 2) / most);
       }
@@ -52,15 +52,11 @@ class FrameReader {
   }
 
   std::uint32_t Word(int x) const {
+    if (palette_) return PaletteWord(Value(0, x));
     int red = Value(0, x);
     int green = red;
     int blue = red;
-    if (palette_) {
-      // Entries of a palette lie the other way round: blue comes first.
-      red = Value(2, x);
-      green = Value(1, x);
-      blue = Value(0, x);
-    } else if (colors_are_rgb_) {
+    if (colors_are_rgb_) {
       green = Value(1, x);
       blue = Value(2, x);
     } else if (count_ >= 3) {
@@ -90,6 +86,15 @@ class FrameReader {
   int Value(int component, int x) const {
     return row_.components[static_cast<std::size_t>(component)]
                           [static_cast<std::size_t>(x >> ColumnShift(component))];
+  }
+  // A palette is the frame's second plane: words of alpha, red, green and blue, alpha highest.
+  std::uint32_t PaletteWord(int index) const {
+    std::uint32_t entry = 0;
+    std::memcpy(&entry, planes_[1] + index * sizeof(entry), sizeof(entry));
+    const auto channel = [entry](int shift) { return static_cast<int>(entry >> shift & 255); };
+    const int alpha = channel(24);
+    return Blend(channel(16), alpha) << 16 | Blend(channel(8), alpha) << 8 |
+           Blend(channel(0), alpha);
   }
   static std::uint32_t Blend(int value, int alpha) {
     const int whole = std::clamp(value, 0, 255);
