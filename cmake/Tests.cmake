@@ -10,7 +10,7 @@ set(QUENDLE_TEST_REPORTS ${PROJECT_BINARY_DIR}/reports)
 
 # Tests are repeatable anywhere: no display, no sound device, no C.UTF-8 surprises.
 set(QUENDLE_TEST_ENVIRONMENT
-  SDL_VIDEODRIVER=dummy SDL_AUDIODRIVER=dummy
+  SDL_VIDEODRIVER=dummy SDL_AUDIODRIVER=dummy ALSOFT_DRIVERS=null
   ASAN_OPTIONS=strict_string_checks=1:detect_stack_use_after_return=1
   UBSAN_OPTIONS=print_stacktrace=1)
 

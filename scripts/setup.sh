@@ -6,7 +6,7 @@ packages=(
   libsdl2-dev libsdl2-ttf-dev fonts-liberation
   libavformat-dev libavcodec-dev libavutil-dev libopenal-dev
   libcli11-dev nlohmann-json3-dev libpng-dev
-  librsvg2-bin python3
+  librsvg2-bin espeak-ng ffmpeg python3
   libgtest-dev libgmock-dev clang-format clang-tidy
 )
 

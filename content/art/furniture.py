@@ -199,3 +199,25 @@ def flower(x, y, colour, s=1.0):
         a = math.radians(i * 72 - 90)
         out += solid(ellipse(8 * math.cos(a), -32 + 8 * math.sin(a), 6.5), colour, 0, 3)
     return move(out + solid(ellipse(0, -32, 5), YELLOW, 0, 2.5), x, y, size=s)
+
+
+def bench(x, y, w, h, colour):
+    """A waiting bench standing on y + h."""
+    out = limb(f"M{x + 18},{y + 16}V{y + h - 5}", DARKWOOD, 12) + limb(f"M{x + w - 18},{y + 16}V{y + h - 5}", DARKWOOD, 12)
+    return out + solid(box(x, y, w, 26, 10), colour, 5) + stroke(f"M{x + 16},{y + 9}H{x + w * 0.6}", light(colour, 0.7), 4)
+
+
+def wool(cx, cy, r):
+    lines = "".join(stroke(f"M{cx - r},{cy + k}Q{cx},{cy + k - r} {cx + r},{cy + k}", light(PINK, 0.6), 3) for k in (-8, 0, 8, 16))
+    return stroke(f"M{cx + r - 4},{cy + 12}Q{cx + r + 12},{cy + 20} {cx + r + 24},{cy + 14}", PINK, 4) + solid(ellipse(cx, cy, r), PINK, 4, inside=lines)
+
+
+def fish(cx, cy, s=1.0):
+    out = solid(poly((18, 0), (38, -16), (38, 16)), CORAL, 3) + solid(ellipse(-4, 0, 28, 18), CORAL, 4, inside=stroke("M8,-18Q0,0 8,18", light(CORAL), 4))
+    return move(out + flat(ellipse(-18, -3, 4, 5), OUTLINE), cx, cy, size=s)
+
+
+def carrot(cx, cy, s=1.0, turn=0):
+    out = stroke("M0,-22V-40M-4,-22L-14,-36M4,-22L14,-36", GREEN, 7)
+    out += solid("M-16,-22H16Q12,20 0,38Q-12,20 -16,-22Z", ORANGE, 4) + stroke("M-12,-8H-2M4,6H11", shade(ORANGE, 0.5), 3)
+    return move(out, cx, cy, turn=turn, size=s)

@@ -29,6 +29,68 @@ def drops(cx, cy, s=1.0):
     return move(out, cx, cy, size=s)
 
 
+def fleacollar(cx, cy, s=1.0):
+    """The flea collar, lying as a ring with its bell."""
+    ring = "M-30,0A30,16 0 1 1 30,0A30,16 0 1 1 -30,0Z"
+    out = stroke(ring, OUTLINE, 17) + stroke(ring, TEAL, 9) + stroke("M-28,5A30,16 0 0 0 20,12", light(TEAL), 3)
+    return move(out + solid(ellipse(0, 22, 10), YELLOW, 3) + stroke("M-5,24H5", OUTLINE, 2.5), cx, cy, size=s)
+
+
+def soap(cx, cy, s=1.0):
+    """A bar of soap in its foam: the tool that washes fur."""
+    out = solid(box(-30, -8, 60, 34, 15), PINK, 5, glint=(-14, -2, 9, 3)) + stroke(box(-17, 2, 34, 15, 7), shade(PINK, 0.3), 3)
+    for x, y, r in ((-22, -12, 10), (-4, -18, 13), (16, -13, 11), (26, -26, 6), (-14, -32, 5)):
+        out += solid(ellipse(x, y, r), WHITE, 2, 3, glint=(x - r * 0.3, y - r * 0.35, r * 0.3, r * 0.2))
+    return move(out, cx, cy, size=s)
+
+
+def fleapowder(cx, cy, s=1.0):
+    """A tin with holes in its lid: the tool that sends fleas away."""
+    out = solid("M-21,-12H21V30Q21,34 17,34H-17Q-21,34 -21,30Z", GREEN, 5) + solid("M-24,-12V-22Q-24,-34 -8,-34H8Q24,-34 24,-22V-12Z", YELLOW, 4)
+    for x, y in ((-11, -25), (0, -28), (11, -25), (-5, -19), (6, -19)):
+        out += flat(ellipse(x, y, 2.2), OUTLINE)
+    out += solid(ellipse(0, 11, 15), CREAM, 0, 3) + flat(ellipse(0, 12, 7, 5), "#7a4a3a")
+    out += stroke("M-5,6L-8,3M0,6V2M5,6L8,3M-5,17L-8,20M5,17L8,20", OUTLINE, 2) + stroke("M-11,21L11,1", CORAL, 4)
+    return move(out, cx, cy, size=s)
+
+
+def water(cx, cy, s=1.0):
+    """A glass of water."""
+    out = solid("M-24,-30H24L18,30Q17,34 13,34H-13Q-17,34 -18,30Z", WHITE, 4, inside=flat("M-23,-14Q-10,-20 0,-14T23,-14L18,36H-18Z", SKY) + flat(box(-13, -6, 6, 28, 3), WHITE))
+    return move(out + stroke("M6,-20L22,-44", OUTLINE, 9) + stroke("M6,-20L22,-44", CORAL, 4), cx, cy + 4 * s, size=s)
+
+
+def grapes(cx, cy, s=1.0):
+    """A bunch of grapes."""
+    out = stroke("M0,-18Q2,-28 10,-34", OUTLINE, 9) + stroke("M0,-18Q2,-28 10,-34", DARKWOOD, 3)
+    out += solid("M2,-22C-14,-40 -30,-34 -32,-22C-22,-14 -8,-14 2,-22Z", GREEN, 3)
+    for x, y in ((-20, -9), (0, -12), (20, -9), (-11, 5), (10, 5), (0, 20)):
+        out += solid(ellipse(x, y, 12), "#9a6cc4", 3, 3, glint=(x - 4, y - 4, 3, 2.5))
+    return move(out, cx, cy + 2 * s, size=s)
+
+
+def antibiotic(cx, cy, s=1.0):
+    """A brown bottle and its spoon: the tool that chases germs."""
+    out = solid("M-26,-8Q-28,-14 -22,-16H-20V-24H2V-16H4Q10,-14 8,-8V28Q8,34 2,34H-20Q-26,34 -26,28Z", DARKWOOD, 4, glint=(-19, 4, 3, 12))
+    out += solid(box(-23, -34, 28, 12, 4), WHITE, 2, 3) + solid(box(-21, 2, 24, 20, 4), CREAM, 0, 3) + flat(cross_path(-9, 12, 7), CORAL)
+    out += stroke("M22,32V-6", OUTLINE, 10) + stroke("M22,32V-6", YELLOW, 4) + solid(ellipse(22, -16, 10, 14), YELLOW, 3, 3.5) + flat(ellipse(22, -15, 5, 8), CORAL)
+    return move(out, cx, cy, size=s)
+
+
+def calamine(cx, cy, s=1.0):
+    """A round bottle of pink lotion with a wad of cotton."""
+    out = solid("M-8,-22H8V-10Q26,-4 26,14Q26,34 8,34H-8Q-26,34 -26,14Q-26,-4 -8,-10Z", PINK, 5, glint=(-16, 6, 4, 9)) + solid(box(-12, -34, 24, 15, 4), TEAL, 3)
+    return move(out + solid(ellipse(0, 14, 12), CREAM, 0, 3) + flat(heart_path(0, 14, 6), CORAL), cx, cy, size=s)
+
+
+def basket(cx, cy, s=1.0):
+    """A basket that takes all tools back."""
+    out = stroke("M-30,-4Q0,-54 30,-4", OUTLINE, 13) + stroke("M-30,-4Q0,-54 30,-4", DARKWOOD, 6)
+    weave = "".join(stroke(f"M{x},-4L{x * 0.8},40", shade(WOOD, 0.4), 3) for x in range(-32, 36, 11)) + stroke("M-40,10H40M-40,22H40", shade(WOOD, 0.4), 3)
+    out += solid("M-40,-4H40L31,34Q30,38 26,38H-26Q-30,38 -31,34Z", WOOD, 5, inside=weave) + solid(box(-44, -11, 88, 14, 6), WOOD, 3)
+    return move(out, cx, cy, size=s)
+
+
 def book(cx, cy, s=1.0):
     """The medical book, closed."""
     out = solid(box(-28, -32, 56, 66, 6), shade(CORAL, 0.35), 3)
@@ -58,6 +120,14 @@ def towels(cx, cy, s=1.0):
     for i, colour in enumerate((MINT, PINK, YELLOW)):
         out += solid(box(-36 + i * 2, 16 - i * 19, 72 - i * 4, 20, 9), colour, 4) + stroke(f"M-26,{26 - i * 19}H10", light(colour, 0.7), 3)
     return move(out, cx, cy, size=s)
+
+
+# Every tool that can lie on the bar, in the order of its cells.
+TOOLS = (
+    ("hand", hand, 38, 42, 1.35), ("medicalbook", book, 36, 42, 0.92), ("bandaid", bandaid, 36, 42, 0.95), ("antiseptic", antiseptic, 37, 42, 0.92),
+    ("soap", soap, 36, 46, 0.98), ("fleapowder", fleapowder, 36, 42, 0.95), ("fleacollar", fleacollar, 36, 38, 0.95), ("water", water, 34, 42, 0.9),
+    ("grapes", grapes, 36, 42, 0.98), ("antibiotic", antibiotic, 38, 42, 0.95), ("calamine", calamine, 36, 42, 0.98),
+)  # fmt: skip
 
 
 # --- pictograms -----------------------------------------------------------------------------------

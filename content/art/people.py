@@ -36,6 +36,12 @@ def doctor_head(eyes="open", mouth="smile"):
     return out
 
 
+def doctor_eyes():
+    """The shut eyes alone, cut along the glasses: laid over any look of the doctor, he blinks."""
+    ring = ellipse(72, 108, 21, 21) + ellipse(118, 108, 21, 21)
+    return f'<clipPath id="glasses"><path d="{ring}"/></clipPath><g clip-path="url(#glasses)">{doctor_head("shut")}</g>'
+
+
 def doctor_body(arm="down"):
     """The body from the shoulders to the shoes, feet at y 326."""
     out = limb("M76,272V306", TEAL, 22) + limb("M114,272V306", TEAL, 22)

@@ -176,12 +176,21 @@ def glowing(piece, lift=3):
     return f'<g filter="url(#glow)">{move(piece, 0, -lift)}</g>'
 
 
+def ring(piece):
+    """The yellow ring alone, as wide as that of `glowing`: it lies under moving frames of the piece."""
+    return f'<g filter="url(#ring)">{piece}</g>'
+
+
 def pressed(piece, down=2):
     """The piece as it looks while it is pressed: down, the ring still around it."""
     return f'<g filter="url(#glow)">{move(piece, 0, down)}</g>'
 
 
 DEFINITIONS = (
+    '<filter id="ring" x="-30%" y="-30%" width="160%" height="160%" color-interpolation-filters="sRGB">'
+    '<feGaussianBlur in="SourceAlpha" stdDeviation="3.4"/>'
+    '<feComponentTransfer result="wide"><feFuncA type="linear" slope="40" intercept="-2"/></feComponentTransfer>'
+    f'<feFlood flood-color="{GLOW}"/><feComposite in2="wide" operator="in"/></filter>'
     '<filter id="glow" x="-30%" y="-30%" width="160%" height="160%" color-interpolation-filters="sRGB">'
     '<feGaussianBlur in="SourceAlpha" stdDeviation="2.8"/>'
     '<feComponentTransfer result="ring"><feFuncA type="linear" slope="40" intercept="-2"/></feComponentTransfer>'

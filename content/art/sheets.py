@@ -4,10 +4,14 @@ A sheet is a transparent picture with cells of sprites; a screen is one opaque c
 `SHEETS` maps the path of the made picture, without its ending, to the function that gives it.
 """
 
+from functools import partial
+
 from animals import dog, dog_paw
+from cat import cat, cat_face, flea
 from furniture import *
 from items import *
-from people import child_face, doctor, doctor_suit
+from people import child_face, doctor, doctor_eyes, doctor_suit
+from rabbit import rabbit, rabbit_face
 from shapes import *
 
 
@@ -98,14 +102,56 @@ def intro():
 def hall():
     out = wall(PEACH, "dots")
     out += bunting(10, 436, 14, (CORAL, YELLOW, TEAL, GREEN, PINK))
-    out += window(476, 92, 112, 118) + curtains(476, 92, 112, 118, TEAL)
-    out += sunbeam(((476, 232), (588, 232), (560, 458), (400, 458)))
+    out += stroke("M496,-4V62M568,-4V62", OUTLINE, 9) + stroke("M496,-4V62M568,-4V62", DARKWOOD, 3)
     out += clock(716, 76, 40)
     out += rug(300, 484, 250, 17, CORAL, YELLOW)
     for x in (84, 229, 374):
         out += shadow(x, 461, 66, 5)
     out += shadow(540, 476, 92, 9) + desk(468, 370, 136, 106, WOOD)
     out += bell(588, 363)
+    out += shadow(700, 482, 66, 8)
+    return screen(out)
+
+
+def hall2():
+    out = wall(light(YELLOW, 0.45), "hearts")
+    out += bunting(150, 590, 34, (TEAL, PINK, YELLOW, CORAL, GREEN))
+    out += poster(50, 84, 74, 86, cross_sign(87, 130, 20), WHITE)
+    out += window(474, 96, 104, 112) + curtains(474, 96, 104, 112, CORAL)
+    out += sunbeam(((474, 228), (578, 228), (566, 458), (400, 458)))
+    out += clock(716, 76, 40)
+    out += rug(300, 484, 250, 17, TEAL, CREAM)
+    for x in (84, 229, 374):
+        out += shadow(x, 461, 66, 5)
+    out += shadow(526, 474, 74, 8) + bench(458, 392, 134, 80, GREEN) + ball(494, 376, 17) + plant(562, 392, 0.5)
+    out += shadow(700, 482, 66, 8)
+    return screen(out)
+
+
+def catroom():
+    out = wall(LAVENDER, "dots")
+    out += window(36, 80, 116, 112) + curtains(36, 80, 116, 112, PINK)
+    out += sunbeam(((36, 214), (152, 214), (330, 458), (120, 458)))
+    out += poster(210, 56, 88, 100, fish(254, 106, 1.0), SKY) + poster(470, 86, 78, 96, heart(509, 136, 20), CREAM)
+    out += lamp(716, 40)
+    out += rug(340, 484, 250, 17, GREEN, CREAM)
+    out += shadow(84, 461, 66, 5) + shadow(346, 480, 160, 9)
+    out += table(194, 390, 304, 92, TEAL)
+    out += wool(176, 464, 20) + shadow(176, 482, 28, 5) + shadow(548, 484, 38, 6) + bowl(548, 472)
+    out += shadow(700, 482, 66, 8)
+    return screen(out)
+
+
+def rabbitroom():
+    out = wall(light(GREEN, 0.45), "stars")
+    out += window(36, 80, 116, 112) + curtains(36, 80, 116, 112, ORANGE)
+    out += sunbeam(((36, 214), (152, 214), (330, 458), (120, 458)))
+    out += poster(206, 52, 84, 104, carrot(248, 104, 1.0), YELLOW) + poster(470, 86, 78, 96, heart(509, 136, 20), CREAM)
+    out += lamp(716, 40)
+    out += rug(340, 484, 250, 17, ORANGE, CREAM)
+    out += shadow(84, 461, 66, 5) + shadow(346, 480, 160, 9)
+    out += table(194, 390, 304, 92, PINK)
+    out += shadow(176, 482, 26, 5) + plant(176, 482, 0.6) + shadow(548, 484, 38, 6) + bowl(548, 472) + carrot(540, 448, 0.5, 60)
     out += shadow(700, 482, 66, 8)
     return screen(out)
 
@@ -127,22 +173,20 @@ def dogroom():
 
 def emptyroom():
     out = wall(MINT, "stars")
-    out += poster(38, 70, 92, 112, cross_sign(84, 128), YELLOW)
+    out += poster(54, 16, 60, 66, cross_sign(84, 50, 19), YELLOW)
     out += shadow(84, 461, 66, 5) + rug(380, 484, 230, 16, GREEN, YELLOW)
+    out += shelf(20, 196, 130)
     out += shadow(378, 474, 200, 9)
-    out += cupboard(186, 70, 380, 404, WOOD)
-    for y in (230, 400):
-        out += solid(box(202, y, 348, 18, 5), shade(WOOD, 0.1), 4)
-    out += towels(268, 192) + cotton(388, 192) + cotton(456, 200, 0.78) + plant(516, 230, 0.62)
-    out += solid(box(222, 424, 130, 34, 8), shade(WOOD, 0.05), 3) + solid(box(398, 424, 130, 34, 8), shade(WOOD, 0.05), 3)
-    out += solid(ellipse(287, 441, 8), YELLOW, 0, 3) + solid(ellipse(463, 441, 8), YELLOW, 0, 3)
+    out += cupboard(186, 36, 380, 438, WOOD)
+    for y in (176, 300, 424):
+        out += solid(box(202, y, 348, 16, 5), shade(WOOD, 0.1), 4)
     out += lamp(700, 30)
     out += shadow(700, 482, 66, 8)
     return screen(out)
 
 
-def cross_sign(cx, cy):
-    return solid(cross_path(cx, cy, 30), CORAL, 4)
+def cross_sign(cx, cy, s=30):
+    return solid(cross_path(cx, cy, s), CORAL, 4)
 
 
 def bookscreen():
@@ -154,19 +198,22 @@ def bookscreen():
     out += flat("M340,49C364,52 386,56 400,62C414,56 436,52 460,49V455C436,460 414,464 400,472C386,464 364,460 340,455Z", "url(#gutter)") + stroke("M400,62V472")
     for dx in (7, 13):
         out += stroke(f"M{76},{462 + dx}C160,{443 + dx} 330,{441 + dx} 400,{468 + dx}C470,{441 + dx} 640,{443 + dx} 724,{462 + dx}", shade(CREAM, 0.3), 3)
-    for y, tool, paw, mood in ((52, antiseptic, "clean", "hope"), (258, bandaid, "bandaid", "joy")):
-        left_paw = "cut" if tool is antiseptic else "clean"
-        left_mood = "sad" if tool is antiseptic else "hope"
-        out += move(dog(left_mood, left_paw), 78, y + 8, size=0.6)
-        out += cross_plus(252, y + 106) + tool(316, y + 106, 1.15)
-        out += arrow(416, y + 106, 0.8, fill=YELLOW)
-        out += move(dog(mood, paw, 1), 496, y + 8, size=0.6)
-    out += heart(668, 304, 15) + heart(690, 346, 10, PINK) + sparkle(668, 96, 16) + sparkle(690, 140, 11)
+    rows = (
+        (dog("sad", "cut"), (antiseptic, bandaid), dog("joy", "bandaid", 1)),
+        (cat("sad", "muddy"), (soap, fleapowder, fleacollar), cat("joy", "collar", 1)),
+        (rabbit("sad", "cold"), (water, grapes, antibiotic), rabbit("joy", "well")),
+    )
+    for row, (ill, cure, well) in enumerate(rows):
+        y = 56 + row * 134
+        if row:
+            out += stroke(f"M204,{y}H366M434,{y}H570", shade(CREAM, 0.25), 3)
+        out += move(ill, 84, y, size=0.45)
+        for tool, x in zip(cure, (250, 346, 454)):
+            out += tool(x, y + 68, 0.88 if tool is fleacollar else 1.0)
+            if x > 250:
+                out += arrow(x - 48 if x < 400 else 400, y + 68, 0.42, fill=YELLOW)
+        out += arrow(532 if len(cure) == 3 else 474, y + 68, 0.8, fill=YELLOW) + move(well, 582, y, size=0.45) + heart(712, y + 40, 11, PINK)
     return screen(out)
-
-
-def cross_plus(cx, cy):
-    return solid(cross_path(cx, cy, 17, 0.34), GREEN, 3)
 
 
 # --- sprites --------------------------------------------------------------------------------------
@@ -217,23 +264,39 @@ def fresh_panel():
     return sheet
 
 
-def doors():
+def door(colour, sign):
     sheet = Sheet(132, 234, 2)
-    kinds = (
-        ("out", CORAL, sign_plate(house(66, 84, 1.0))),
-        ("dog", TEAL, sign_plate(dog_face(66, 84, 0.95))),
-        ("shelf", ORANGE, sign_plate(bandaid(66, 84, 0.9))),
-        ("hall", YELLOW, sign_plate(hall_sign(66, 84))),
-    )
-    for name, colour, sign in kinds:
-        sheet.add(name, door_leaf(colour, sign))
-        sheet.add(name + "-open", glowing(door_leaf(colour, sign, open_door=True), 0))
+    sheet.add("shut", door_leaf(colour, sign_plate(sign)))
+    sheet.add("open", glowing(door_leaf(colour, sign_plate(sign), open_door=True), 0))
     return sheet
+
+
+# The colour and the sign of each door. An object loads its whole picture, so each has its own.
+DOORS = {
+    "homedoor": lambda: door(CORAL, house(66, 84, 1.0)),
+    "dogdoor": lambda: door(TEAL, dog_face(66, 84, 0.95)),
+    "shelfdoor": lambda: door(ORANGE, bandaid(66, 84, 0.9)),
+    "halldoor": lambda: door(YELLOW, hall_sign(66, 84)),
+    "hall2door": lambda: door(YELLOW, hall_sign(66, 84)),
+    "catdoor": lambda: door(GREEN, cat_face(66, 86, 0.95)),
+    "rabbitdoor": lambda: door(PINK, rabbit_face(66, 90, 0.85)),
+}
 
 
 def hall_sign(cx, cy):
     """The hall's pictogram: an arrow back."""
     return arrow(cx - 2, cy, 0.95, turn=180, fill=TEAL)
+
+
+def next_sign():
+    """The board that leads to the second hall: cat, rabbit and an arrow, hanging on two cords."""
+    sheet = Sheet(152, 132, 2)
+    board = stroke("M40,4V34M112,4V34", OUTLINE, 9) + stroke("M40,4V34M112,4V34", DARKWOOD, 3)
+    board += solid("M10,28H112L144,70L112,118H10Q4,118 4,112V34Q4,28 10,28Z", CREAM, 6) + stroke("M14,36H108L134,70L108,110H14Z", GREEN, 4)
+    board += cat_face(40, 76, 0.68) + rabbit_face(80, 78, 0.68) + arrow(116, 72, 0.5, fill=YELLOW)
+    sheet.add("sign", board)
+    sheet.add("sign-glow", glowing(board))
+    return sheet
 
 
 def medicalbook():
@@ -252,11 +315,18 @@ def doctor_sheet():
     )  # fmt: skip
     for name, piece in looks:
         sheet.add(name, move(piece, 6, 6))
-    sheet.add("stand-glow", glowing(move(doctor(), 6, 7)))
-    sheet.add("blink-glow", glowing(move(doctor("shut"), 6, 7)))
+    sheet.add("stand-glow", glowing(move(doctor(), 6, 6), 0))
     sheet.below(232, 176, 4)
     for name, piece in bubble_contents():
         sheet.add("bubble-" + name, bubble(piece))
+    return sheet
+
+
+def doctor_eyes_sheet():
+    """The doctor's shut eyes, which lie over the face for a moment."""
+    sheet = Sheet(96, 44, 1)
+    sheet.add("open", "")
+    sheet.add("shut", move(doctor_eyes(), 6 - 53, 6 - 92))
     return sheet
 
 
@@ -266,6 +336,18 @@ def bubble_contents():
     def paw(cx, cy, kind):
         return move(dog_paw(0, 0, kind), cx, cy)
 
+    def step(sign, tool, size=1.0):
+        return sign + small_arrow(110, 78) + tool(164, 76, size)
+
+    def helps(tool, sign, size=1.0):
+        return tool(58, 76, size) + small_arrow(110, 78) + sign
+
+    def cat_with(*signs):
+        return cat_face(54, 82, 1.05) + "".join(signs)
+
+    mud = flat(ellipse(40, 70, 8, 6), DARKWOOD) + flat(ellipse(68, 92, 7, 5), DARKWOOD) + flat(ellipse(64, 66, 5, 4), DARKWOOD)
+    fleas = flea(24, 50, 0.9) + flea(86, 52, 0.9, 150) + flea(54, 118, 0.9)
+    cold = rabbit_face(54, 82, 1.05) + solid(ellipse(54, 94, 9, 7), CORAL, 0, 3)
     return (
         ("book", book(88, 76, 1.25) + sparkle(142, 44, 13) + sparkle(152, 104, 10)),
         ("read", hand(54, 80, 1.3) + small_arrow(106, 76) + book(164, 76, 1.0)),
@@ -273,16 +355,32 @@ def bubble_contents():
         ("shelf", hand(54, 84, 1.3) + antiseptic(112, 74, 1.0) + bandaid(172, 76, 0.85)),
         ("lift", arrow(76, 74, 1.1, turn=-90, fill=YELLOW) + arrow(146, 74, 1.1, turn=90, fill=YELLOW)),
         ("item", hand(52, 76, 1.25) + small_arrow(104, 76) + bandaid(166, 76, 0.95)),
-        ("full", towels(108, 88, 0.8) + bandaid(70, 44, 0.55) + antiseptic(112, 38, 0.5) + bandaid(152, 44, 0.55)),
+        ("full", bandaid(34, 34, 0.5) + antiseptic(64, 32, 0.45) + soap(96, 36, 0.5) + grapes(34, 84, 0.55) + water(64, 86, 0.5) + fleapowder(96, 86, 0.5) + small_arrow(128, 76) + basket(176, 78, 0.62)),
         ("same", solid(box(34, 40, 76, 74, 18), light(WOOD, 0.25), 0) + bandaid(72, 77, 0.9) + cog_button(158, 76, 34, GREEN, tick(158, 73, 0.85))),
-        ("retry", again(72, 74, 1.3, YELLOW) + dog_face(152, 76, 0.95)),
-        ("over", again(60, 74, 1.1, ORANGE) + small_arrow(108, 76) + paw(162, 76, "cut")),
-        ("dog", paw(52, 78, "cut") + small_arrow(104, 78) + antiseptic(160, 74, 1.1)),
-        ("dog-clean", paw(52, 78, "clean") + small_arrow(108, 78) + bandaid(164, 76, 0.95)),
+        ("retry", again(72, 74, 1.3, YELLOW) + question(154, 68, 1.0)),
+        ("over", again(52, 74, 1.1, ORANGE) + dog_face(106, 76, 0.62) + cat_face(146, 78, 0.62) + rabbit_face(182, 80, 0.6)),
+        ("dog", step(paw(52, 78, "cut"), antiseptic, 1.1)),
+        ("dog-clean", step(paw(52, 78, "clean"), bandaid, 0.95)),
         ("dog-well", dog_face(80, 80, 1.15) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
-        ("antiseptic", antiseptic(60, 74, 1.15) + small_arrow(110, 78) + paw(162, 78, "cut")),
-        ("bandaid", bandaid(54, 76, 0.9) + small_arrow(106, 78) + paw(162, 78, "clean")),
-        ("home", house(70, 80, 1.2) + small_arrow(124, 80) + dog_face(170, 80, 0.8)),
+        ("antiseptic", helps(antiseptic, paw(162, 78, "cut"), 1.15)),
+        ("bandaid", helps(bandaid, paw(162, 78, "clean"), 0.9)),
+        ("home", dog_face(44, 80, 0.85) + cat_face(108, 82, 0.85) + rabbit_face(170, 82, 0.85)),
+        ("soap", helps(soap, move(cat_face(54, 82, 1.05) + mud, 112, 0), 0.95)),
+        ("fleapowder", helps(fleapowder, flea(164, 80, 2.0), 1.1)),
+        ("fleacollar", helps(fleacollar, cat_face(164, 80, 1.0), 0.85)),
+        ("water", helps(water, move(cold, 108, 0), 1.05)),
+        ("grapes", helps(grapes, rabbit_face(164, 84, 1.0) + heart(192, 40, 10), 0.95)),
+        ("antibiotic", helps(antibiotic, move(cold, 108, 0), 1.1)),
+        ("calamine", helps(calamine, sparkle(160, 62, 17) + sparkle(180, 100, 11), 1.15)),
+        ("basket", soap(42, 66, 0.7) + bandaid(70, 92, 0.55) + small_arrow(112, 76) + basket(168, 78, 0.8)),
+        ("cat", step(cat_with(mud), soap, 0.95)),
+        ("cat-fleas", step(cat_with(fleas), fleapowder, 1.1)),
+        ("cat-powder", step(cat_with(sparkle(90, 44, 10), sparkle(24, 118, 8)), fleacollar, 0.85)),
+        ("cat-well", cat_face(80, 82, 1.25) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
+        ("rabbit", step(cold, water, 1.05)),
+        ("rabbit-drunk", step(rabbit_face(54, 84, 1.05), grapes, 0.95)),
+        ("rabbit-fed", step(rabbit_face(54, 84, 1.05) + sparkle(92, 44, 10), antibiotic, 1.1)),
+        ("rabbit-well", rabbit_face(80, 86, 1.2) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
     )
 
 
@@ -313,15 +411,67 @@ def dog_sheet():
     return sheet
 
 
-def shelf_items():
+def patient_sheet(draw, looks, well):
+    """The cells of a patient that needs a step for each look; `draw(mood, look, **pose)` is the patient.
+
+    Under the pointer a ring lies below the same frames: a sheet is the largest thing that a room loads.
+    """
+    sheet = Sheet(240, 296, 6)
+
+    def add(name, piece):
+        sheet.add(name, move(piece, -8, 0))
+
+    for number, look in enumerate(looks):
+        mood, blink = (("sad", "blink"), ("hope", "hopeblink"))[number > 0]
+        name = f"step{number}"
+        add(name + "-1", draw(mood, look, pose=0))
+        add(name + "-2", draw(mood, look, pose=1, breath=3))
+        add(name + "-3", draw(blink, look, pose=0, breath=3))
+        add(name + "-ring", ring(draw(mood, look, pose=0)))
+        add(name + "-ow1", draw("ow", look, pose=1))
+        add(name + "-ow2", move(draw("ow", look, pose=0, breath=3), 3, 0))
+    add("well-1", draw("happy", well, pose=0))
+    add("well-2", draw("happy", well, pose=1, breath=2))
+    add("well-3", draw("joy", well, pose=0, breath=2))
+    add("well-ring", ring(draw("happy", well, pose=0)))
+    for i, hop in enumerate((14, 22)):
+        hearts = heart(30, 60 - i * 14, 10 + i) + heart(222, 50 - i * 10, 8 + i, PINK) + sparkle(196 - i * 10, 16 + i * 6, 9, YELLOW)
+        add(f"jump{i + 1}", draw("joy", well, pose=i, hop=hop) + hearts)
+    return sheet
+
+
+def cat_sheet():
+    return patient_sheet(lambda mood, look, pose, **more: cat(mood, look, pose, itch=pose, **more), ("muddy", "fleas", "powder"), "collar")
+
+
+def rabbit_sheet():
+    def draw(mood, look, pose, **more):
+        return rabbit("sneeze" if mood == "blink" else mood, look, **more)
+
+    return patient_sheet(draw, ("cold", "drunk", "fed"), "well")
+
+
+def shelf_item(name, tool):
+    """A tool as it lies on the shelf."""
+    if name == "bandaid":
+        piece = solid(box(12, 34, 80, 68, 8), WHITE, 6) + solid(box(12, 34, 80, 16, 6), CORAL, 3) + bandaid(52, 76, 0.62)
+        piece = solid(poly((20, 34), (34, 12), (70, 12), (84, 34)), CORAL, 4) + move(bandage_strip(0, 0, 46, 18), 52, 22, turn=-14) + piece
+    else:
+        size = {"fleacollar": 1.1, "water": 1.15, "grapes": 1.2}.get(name, 1.3)
+        piece = tool(52, 100 - 34 * size, size)
     sheet = Sheet(104, 112, 3)
-    box_piece = solid(box(12, 34, 80, 68, 8), WHITE, 6) + solid(box(12, 34, 80, 16, 6), CORAL, 3) + bandaid(52, 76, 0.62)
-    box_piece = solid(poly((20, 34), (34, 12), (70, 12), (84, 34)), CORAL, 4) + move(bandage_strip(0, 0, 46, 18), 52, 22, turn=-14) + box_piece
-    for name, piece in (("bandaid", box_piece), ("antiseptic", antiseptic(50, 58, 1.3))):
-        sheet.add(name, piece)
-        sheet.add(name + "-glow", glowing(piece))
-        taken = move(piece, 0, -4) + sparkle(18, 18, 13, YELLOW) + sparkle(88, 26, 10, WHITE) + sparkle(86, 90, 12, YELLOW)
-        sheet.add(name + "-taken", taken)
+    sheet.add("rest", piece)
+    sheet.add("glow", glowing(piece))
+    sheet.add("taken", move(piece, 0, -4) + sparkle(18, 18, 13, YELLOW) + sparkle(88, 26, 10, WHITE) + sparkle(86, 90, 12, YELLOW))
+    return sheet
+
+
+def tool_basket():
+    sheet = Sheet(120, 104, 3)
+    piece = basket(60, 58, 1.1)
+    sheet.add("basket", piece)
+    sheet.add("basket-glow", glowing(piece))
+    sheet.add("basket-full", move(bandaid(40, 36, 0.6) + antiseptic(72, 30, 0.6) + soap(58, 40, 0.5), 0, 0) + piece)
     return sheet
 
 
@@ -337,27 +487,37 @@ def tool_bar():
     return sheet
 
 
-def tools():
+def bar_tool(tool, x, y, size):
     sheet = Sheet(72, 84, 3)
-    for name, piece in (("hand", hand(38, 42, 1.35)), ("medicalbook", book(36, 42, 0.92)), ("bandaid", bandaid(36, 42, 0.95)), ("antiseptic", antiseptic(37, 42, 0.92))):
-        add_states(sheet, name, piece)
+    add_states(sheet, "tool", tool(x, y, size))
+    return sheet
+
+
+def key_colour():
+    """Nothing but the ground: the engine reads the colour that is seen through from this picture."""
+    sheet = Sheet(8, 8, 1)
+    sheet.add("ground", "")
     return sheet
 
 
 def scroll_buttons():
-    sheet = Sheet(68, 84, 3)
-    small = solid(box(7, 10, 32, 62, 14), TEAL, 5) + move(arrow(0, 0, 0.5, turn=180), 23, 41)
-    wide = solid(box(7, 10, 54, 62, 18), TEAL, 5) + move(arrow(0, 0, 0.75), 34, 41)
-    add_states(sheet, "left", small)
-    add_states(sheet, "right", wide)
+    # The left one ends where the first slot of the bar begins: both would take the click.
+    sheet = Sheet(45, 84, 3)
+    add_states(sheet, "left", solid(box(3, 6, 39, 72, 14), TEAL, 5) + move(arrow(0, 0, 0.56, turn=180), 22, 42))
+    sheet.below(100, 84, 3)
+    add_states(sheet, "right", solid(box(6, 6, 88, 72, 20), TEAL, 5) + move(arrow(0, 0, 1.0), 50, 42))
     return sheet
 
 
-def cursors():
-    sheet = Sheet(64, 64, 3)
-    sheet.add("hand", hand(24, 25, 1.0))
-    sheet.add("bandaid", bandaid(32, 32, 0.8))
-    sheet.add("antiseptic", move(antiseptic(34, 33, 0.78), size=(-1, 1), about=(34, 33)) + drops(6, 12, 0.62))
+def pointer(name, tool):
+    sheet = Sheet(64, 64, 1)
+    if name == "hand":
+        piece = hand(24, 25, 1.0)
+    elif name == "antiseptic":
+        piece = move(antiseptic(34, 33, 0.78), size=(-1, 1), about=(34, 33)) + drops(6, 12, 0.62)
+    else:
+        piece = tool(32, 32, 0.78)
+    sheet.add("pointer", piece)
     return sheet
 
 
@@ -394,19 +554,31 @@ SHEETS = {
     "Info/Floor1/hall1/medicalbook": medicalbook,
     "Info/Floor1/dogroom/room": dogroom,
     "Info/Floor1/dogroom/dog": dog_sheet,
+    "Info/Floor1/hall1/nextsign": next_sign,
+    "Info/Floor1/hall2/hall": hall2,
+    "Info/Floor1/catroom/room": catroom,
+    "Info/Floor1/catroom/cat": cat_sheet,
+    "Info/Floor1/rabbitroom/room": rabbitroom,
+    "Info/Floor1/rabbitroom/rabbit": rabbit_sheet,
     "Info/Floor1/emptyroom1/room": emptyroom,
-    "Info/Floor1/emptyroom1/items": shelf_items,
+    "Info/Floor1/emptyroom1/basket": tool_basket,
     "Info/Book/book": bookscreen,
     "Info/Book/back": book_back,
     "Info/Doctor/doctor": doctor_sheet,
-    "Info/GlobalReferences/images/doors": doors,
+    "Info/Doctor/eyes": doctor_eyes_sheet,
     "Info/GlobalReferences/images/yesno": yes_no,
     "Info/GlobalReferences/images/person/face": person_face,
     "Info/GlobalReferences/images/person/doctorsuit": person_suit,
     "Info/GlobalReferences/images/person/doctor": person_doctor,
     "Info/Tools/bar": tool_bar,
-    "Info/Tools/tool": tools,
+    "Info/Tools/tool": key_colour,
     "Info/Tools/scroll": scroll_buttons,
-    "Info/Cursors/cursors": cursors,
     "Info/Cursors/exitpanel": exit_panel,
 }
+SHEETS.update({f"Info/GlobalReferences/doors/{name}": make for name, make in DOORS.items()})
+for _name, _tool, _x, _y, _size in TOOLS:
+    SHEETS[f"Info/Tools/{_name}/tool"] = partial(bar_tool, _tool, _x, _y, _size)
+    if _name != "medicalbook":
+        SHEETS[f"Info/Cursors/{_name}/pointer"] = partial(pointer, _name, _tool)
+    if _name not in ("hand", "medicalbook"):
+        SHEETS[f"Info/Floor1/emptyroom1/{_name}"] = partial(shelf_item, _name, _tool)

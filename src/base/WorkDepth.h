@@ -35,7 +35,6 @@ class WorkDepth {
  private:
   friend class DepthGuard;
   int depth_ = 0;
-  int uncaught_outside_ = 0;  // when the outermost level began
   bool noted_ = false;
   std::string failed_object_;
   std::string failed_text_;
@@ -49,14 +48,12 @@ class DepthGuard {
   DepthGuard(WorkDepth& depth, Work work, std::string_view text, const WorkPlace* place = nullptr,
              const FilePlace* origin = nullptr)
       : depth_(depth), work_(work), text_(text), place_(place), origin_(origin) {
-    if (depth_.depth_ == 0) depth_.uncaught_outside_ = std::uncaught_exceptions();
     if (depth_.depth_ >= WorkDepth::kLimit) Refuse();
     ++depth_.depth_;
   }
   ~DepthGuard() {
     --depth_.depth_;
-    // Work that passes whole while a fault from outside unwinds has not failed.
-    if (std::uncaught_exceptions() > depth_.uncaught_outside_ && !depth_.noted_) Note();
+    if (std::uncaught_exceptions() > uncaught_ && !depth_.noted_) Note();
   }
   DepthGuard(const DepthGuard&) = delete;
   DepthGuard& operator=(const DepthGuard&) = delete;
@@ -70,6 +67,8 @@ class DepthGuard {
   std::string_view text_;
   const WorkPlace* place_;
   const FilePlace* origin_;
+  // At the start: a level that passes whole while another fault unwinds has not failed.
+  int uncaught_ = std::uncaught_exceptions();
 };
 
 }  // namespace quendle

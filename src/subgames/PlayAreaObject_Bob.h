@@ -30,7 +30,7 @@ class PlayAreaObject_Bob : public CellPlayArea {
   void ClickCell(CellObject& cell);
   void ClickGoodCell(CellObject& cell);
 
-  std::string folder_;  // of the cells' files, since the area was turned on last
+  std::string folder_;            // of the cells' files, since the area was turned on last
   std::int16_t m_nCellCount = 0;  // the highest cell number made
   std::int16_t m_nRunState = 0;   // 1: ticks run
 };

@@ -99,7 +99,9 @@ class TickingBoxes : public Boxes {
   }
   bool YesNoBox(const std::string&, const std::string&) override { return true; }
   std::string InputBox(const std::string&, const std::string&) override { return ""; }
-  std::string ChooseFile(const std::string&) override { return ""; }
+  std::string ChooseFile(const std::string&, const std::vector<FileFilter>&) override {
+    return "";
+  }
 
  private:
   HeadlessBackend& backend_;

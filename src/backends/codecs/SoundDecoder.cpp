@@ -103,6 +103,9 @@ class Decoding {
   std::string OpenCodec();
   std::string Feed(const AVPacket* packet);
   std::string Keep(const AVFrame& frame);
+  // What the header of Windows Media says, which is about right; 0 when it says nothing or the file
+  // was cut. A wave that was written into a pipe has no honest length.
+  double PromisedSeconds() const;
 
   MemoryStream stream_;
   SoundLimits limits_;
@@ -111,8 +114,6 @@ class Decoding {
   std::unique_ptr<AVFrame, FreeFrame> frame_{av_frame_alloc()};
   std::unique_ptr<AVPacket, FreePacket> packet_{av_packet_alloc()};
   int index_ = -1;  // of the sound among the streams
-  int good_ = 0;    // pieces that could be decoded
-  int bad_ = 0;
   std::shared_ptr<DecodedSound> sound_ = std::make_shared<DecodedSound>();
 };
 
@@ -173,27 +174,27 @@ std::string Decoding::Decode() {
   if (stream_.Exhausted()) return "it leads in circles";
   if (std::string problem = Feed(nullptr); !problem.empty()) return problem;
   if (sound_->samples.empty()) return "it holds nothing that can be decoded";
-  if (bad_ > good_) return "most of it is damaged";
+  if (sound_->Seconds() < PromisedSeconds() / 2) return "most of it is damaged";
   sound_->samples.shrink_to_fit();
   return {};
 }
 
 // Null empties the decoder at the end.
 std::string Decoding::Feed(const AVPacket* packet) {
-  bool good = avcodec_send_packet(codec_.get(), packet) >= 0;
-  while (true) {
-    const int answer = avcodec_receive_frame(codec_.get(), frame_.get());
-    if (answer == AVERROR(EAGAIN) || answer == AVERROR_EOF) break;
-    if (answer < 0) {
-      good = false;
-      break;
-    }
+  // What can't be decoded is left out.
+  avcodec_send_packet(codec_.get(), packet);
+  while (avcodec_receive_frame(codec_.get(), frame_.get()) >= 0) {
     std::string problem = Keep(*frame_);
     av_frame_unref(frame_.get());
     if (!problem.empty()) return problem;
   }
-  if (packet != nullptr) ++(good ? good_ : bad_);
   return {};
+}
+
+double Decoding::PromisedSeconds() const {
+  if (std::strcmp(format_->iformat->name, "asf") != 0) return 0;
+  const AVStream& stream = *format_->streams[index_];
+  return stream.duration > 0 ? static_cast<double>(stream.duration) * av_q2d(stream.time_base) : 0;
 }
 
 std::string Decoding::Keep(const AVFrame& frame) {

@@ -25,8 +25,8 @@ struct SoundDecoding {
 // within the limits of memory, and always come to an end.
 //
 // Files are Windows Media Audio (1 or 2) and waves of plain samples (8 or 16 bits), by what the
-// bytes show; the name of a file plays no part. Pieces that can't be decoded are left out; a file
-// that has more of those than of good ones is damaged.
+// bytes show; the name of a file plays no part. A file that was cut sounds up to the cut. Pieces
+// that can't be decoded are left out; when they are more than half of the sound, it is damaged.
 class SoundDecoder {
  public:
   explicit SoundDecoder(SoundLimits limits = {}) : limits_(limits) {}

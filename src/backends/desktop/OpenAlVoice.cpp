@@ -23,6 +23,12 @@ std::int16_t Scaled(std::int16_t sample, float gain) {
   return static_cast<std::int16_t>(std::lround(static_cast<float>(sample) * gain));
 }
 
+// The usual one dulls speech of low rates: 1.3 dB are lost at a fifth of the rate.
+void UseBestResampler(ALuint source) {
+  if (alIsExtensionPresent("AL_SOFT_source_resampler") == AL_FALSE) return;
+  alSourcei(source, AL_SOURCE_RESAMPLER_SOFT, alGetInteger(AL_NUM_RESAMPLERS_SOFT) - 1);
+}
+
 }  // namespace
 
 OpenAlVoice::OpenAlVoice(std::shared_ptr<OpenAlDevice> device,
@@ -62,6 +68,7 @@ bool OpenAlVoice::Play(double seconds) {
     return false;
   }
   alSourcei(source_, AL_DIRECT_CHANNELS_SOFT, AL_TRUE);
+  UseBestResampler(source_);
   alSourcei(source_, AL_BUFFER, static_cast<ALint>(buffer_));
   alSourcef(source_, AL_GAIN, gain_);
   alSourcef(source_, AL_PITCH, pitch_);

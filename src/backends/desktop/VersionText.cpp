@@ -51,8 +51,8 @@ std::string VersionText(const std::string& program, const std::string& build,
   SDL_GetVersion(&sdl);
   FontFinder fonts(FontFinder::SystemFolders());
   std::string text = program + " " + build + "\n";
-  text += "libraries: SDL " + NumberOf(sdl) + ", SDL_ttf " + NumberOf(*TTF_Linked_Version()) + ", " +
-          OpenAlDevice::Library() + ", " + SoundDecoder::Library() + "\n";
+  text += "libraries: SDL " + NumberOf(sdl) + ", SDL_ttf " + NumberOf(*TTF_Linked_Version()) +
+          ", " + OpenAlDevice::Library() + ", " + SoundDecoder::Library() + "\n";
   text += "drawing:   " + DrawingBackend() + "\n";
   text += "font:      " + (fonts.Regular().empty() ? "none" : fonts.Regular().string()) + "\n";
   if (!folders.content.empty()) {

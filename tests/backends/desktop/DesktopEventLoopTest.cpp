@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "backends/desktop/DesktopClock.h"
-#include "backends/desktop/SilentFilterGraphs.h"
 #include "base/ProcessEnds.h"
 
 namespace quendle {
@@ -57,13 +56,6 @@ TEST(DesktopClock, TheMonotonicClockNeverGoesBack) {
     ASSERT_GE(now, before);
     before = now;
   }
-}
-
-TEST(SilentFilterGraphs, AFileCantBeBuilt) {
-  SilentFilterGraphs graphs;
-  auto graph = graphs.Create();
-  ASSERT_NE(graph, nullptr);
-  EXPECT_FALSE(graph->RenderFile("/content\\a.wma"));
 }
 
 }  // namespace
