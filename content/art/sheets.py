@@ -7,6 +7,7 @@ A sheet is a transparent picture with cells of sprites; a screen is one opaque c
 from functools import partial
 
 from animals import dog, dog_paw
+from arcade import arcade_sheets
 from cat import cat, cat_face, flea
 from furniture import *
 from items import *
@@ -576,6 +577,7 @@ SHEETS = {
     "Info/Cursors/exitpanel": exit_panel,
 }
 SHEETS.update({f"Info/GlobalReferences/doors/{name}": make for name, make in DOORS.items()})
+SHEETS.update(arcade_sheets(Sheet, add_states))
 for _name, _tool, _x, _y, _size in TOOLS:
     SHEETS[f"Info/Tools/{_name}/tool"] = partial(bar_tool, _tool, _x, _y, _size)
     if _name != "medicalbook":

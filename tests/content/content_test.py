@@ -129,7 +129,7 @@ def script_lines(path):
 
 
 def things():
-    kinds = {"hall", "overlay", "dialog", "button", "key", "doctor", "patient", "tool"}
+    kinds = {"hall", "overlay", "subgame", "dialog", "button", "key", "doctor", "patient", "tool"}
     for path in sorted((SOURCE / "Info").rglob("*.txt")):
         head = lines(path)
         if len(head) == 9 and head[0] in kinds and not head[6].isdigit():
@@ -166,12 +166,39 @@ class ClinicTest(unittest.TestCase):
                 self.assertIn(rectangle, cells[thing.picture], f"{thing.path}: frame {name}")
         self.assertGreater(seen, 100)
 
+    def test_every_cell_of_a_game_has_its_frames_and_its_sounds(self):
+        cells = {}
+        for line in draw("cells").splitlines():
+            picture, _, *rectangle = line.split()
+            cells.setdefault(picture, set()).add(tuple(int(v) for v in rectangle))
+        needed = {"ball": {"bounce", "hit"}, "spray": {"fire", "hit"}, "germ1": {"hit"}, "good": {"owww"}, "tile": {"owww"}}
+        seen = 0
+        for path in sorted((SOURCE / "Info").glob("*screen/*data.txt")):
+            files = lines(path)
+            if files[1] == "nothing":
+                continue
+            seen += 1
+            folder = path.parent
+            resolved = [folder / name.replace("<CurrentDirectory>\\", "") for name in files[:3]]
+            animation = lines(resolved[1])
+            picture = animation[0].replace("<CurrentDirectory>\\", f"Info/{folder.name}/").removesuffix(".bmp")
+            frames = lines(folder / animation[1].replace("<CurrentDirectory>\\", ""))
+            for i in range(0, len(frames), 9):
+                self.assertIn(tuple(int(v) for v in frames[i + 4 : i + 8]), cells[picture], f"{path}: {frames[i]}")
+            moves = dict(animation_records(animation[2:]))
+            shown = {name for _, sets in moves.values() for one in sets for name in one}
+            self.assertLessEqual(shown, set(frames[::9]), path)
+            self.assertLessEqual(set(lines(resolved[0])[2::6]), set(moves), path)
+            names = set() if files[2] == "nothing" else set(lines(resolved[2])[::4])
+            self.assertLessEqual(needed.get(path.name.removesuffix("data.txt"), set()), names, path)
+        self.assertGreater(seen, 25)
+
     def test_a_target_is_large_enough_for_a_small_hand(self):
         for thing in things():
             if thing.kind not in ("button", "patient", "tool") or thing.name.endswith("cursor"):
                 continue
             least = (110, 190) if thing.name.endswith("door") else (64, 64)
-            if thing.script_list == "nothing":
+            if thing.script_list == "nothing" or thing.name == "Scoring1":
                 continue  # nothing happens on a click
             for x, y, w, h in thing.frames.values():
                 self.assertGreaterEqual((w >= least[0], h >= least[1]), (True, True), f"{thing.path}: {w} by {h}")
@@ -196,7 +223,7 @@ class ClinicTest(unittest.TestCase):
             if (w, h) == ("800", "600"):
                 screens += 1
                 self.assertFalse(Bitmap(MADE / f"{picture}.bmp").holds(KEY), picture)
-        self.assertEqual(screens, 8)
+        self.assertEqual(screens, 12)
 
     def test_every_edition_finds_its_treatments_in_both_variants(self):
         folder = SOURCE / "Info/GlobalReferences/scripts"

@@ -1,0 +1,306 @@
+"""The pictures of the four arcade games: their screens, hints, buttons and everything that moves.
+
+A ball, a shot and a drifting thing are hit by their corners or by the pixel under the pointer, so what
+has to be hit fills its cell.
+"""
+
+from animals import dog
+from cat import cat, cat_face, flea
+from furniture import *
+from items import *
+from rabbit import rabbit
+from shapes import *
+
+TILE, PITCH, TILES_A_ROW = 126, 130, 3
+BOARD_LEFT, BOARD_TOP = 205, 66
+
+
+# --- the tiles ------------------------------------------------------------------------------------
+
+
+def tile_picture():
+    """The whole picture, 390 by 390: a rabbit in the grass under the sun."""
+    out = flat("M0,0H390V390H0Z", SKY)
+    out += solid(ellipse(58, 60, 38), YELLOW, 5) + shut_eye(46, 58, 7, up=True) + shut_eye(70, 58, 7, up=True) + stroke("M46,70Q58,80 70,70", OUTLINE, 3)
+    out += cloud(316, 60, 0.62)
+    out += flat("M0,268Q120,214 240,256T390,240V390H0Z", GREEN) + stroke("M0,268Q120,214 240,256T390,240", OUTLINE)
+    out += move(rabbit("happy", "well"), 68, 62)
+    out += flower(54, 318, PINK, 1.3) + flower(334, 300, YELLOW, 1.4) + carrot(70, 230, 0.9, 30)
+    return out + flower(196, 372, WHITE, 1.1) + grapes(330, 196, 1.1)
+
+
+def tile(number):
+    """The piece of the picture that tile 1 to 8 carries, as a little cushion."""
+    x, y = (number - 1) % TILES_A_ROW * PITCH, (number - 1) // TILES_A_ROW * PITCH
+    inside = move(tile_picture(), -x - 2, -y - 2)
+    return solid(box(3, 3, TILE - 6, TILE - 6, 12), CREAM, 0, 5, inside=inside)
+
+
+def tile_sheet(sheet):
+    for number in range(1, 9):
+        sheet.add(f"tile{number}", tile(number))
+    return sheet
+
+
+def square_room():
+    out = wall(light(TEAL, 0.5), "stars")
+    size = PITCH * TILES_A_ROW
+    out += solid(box(BOARD_LEFT - 22, BOARD_TOP - 20, size + 40, size + 40, 24), WOOD, 9)
+    out += flat(box(BOARD_LEFT - 6, BOARD_TOP - 4, size + 8, size + 8, 12), shade(WOOD, 0.45))
+    for place in range(9):
+        x, y = BOARD_LEFT + place % 3 * PITCH, BOARD_TOP + place // 3 * PITCH
+        out += flat(box(x + 2, y + 2, TILE - 4, TILE - 4, 12), shade(WOOD, 0.3))
+    out += shadow(94, 546, 70, 9) + move(rabbit("sad", "drunk"), -26, 264, size=0.78, about=(120, 284))
+    return out + shadow(704, 540, 60, 8) + move(solid(box(-50, -62, 100, 100, 8), WOOD, 5) + move(tile_picture(), -42, -54, size=84 / 390), 704, 480)
+
+
+# --- germs and spray ------------------------------------------------------------------------------
+
+
+def germ(colour, mood=0):
+    """A germ of 64 by 60, more cross than terrible."""
+    out = ""
+    for x, y in ((10, 14), (54, 14), (6, 36), (58, 36), (18, 54), (46, 54), (32, 6)):
+        out += stroke(f"M32,32L{x},{y}", OUTLINE, 9) + stroke(f"M32,32L{x},{y}", colour, 3) + solid(ellipse(x, y, 5), colour, 0, 3)
+    out += solid(ellipse(32, 32, 24, 22), colour, 6, glint=(24, 20, 6, 3))
+    out += flat(ellipse(24, 30, 6, 7), WHITE) + flat(ellipse(40, 30, 6, 7), WHITE) + flat(ellipse(25, 32, 3), OUTLINE) + flat(ellipse(39, 32, 3), OUTLINE)
+    out += stroke("M17,21L28,25M47,21L36,25", OUTLINE, 3)
+    return out + stroke("M25,45Q32,39 39,45" if mood else "M24,42H40", OUTLINE, 3)
+
+
+def germ_sheet(sheet):
+    for number, colour in enumerate((GREEN, "#b48ad6", ORANGE), 1):
+        sheet.add(f"germ{number}a", germ(colour))
+        sheet.add(f"germ{number}b", move(germ(colour, 1), 0, -2))
+    return sheet
+
+
+def spray_sheet(sheet):
+    """The bottle that the player moves: its nozzle is at the left, where the drops come out."""
+    sheet.add("spray", antiseptic(28, 33, 0.86))
+    return sheet
+
+
+def drop_sheet(sheet):
+    sheet.add("drop", solid("M11,2Q20,14 20,20A9,9 0 0 1 2,20Q2,14 11,2Z", SKY, 3, 3, glint=(7, 20, 2, 4)))
+    sheet.add("splash", sparkle(11, 15, 11, WHITE))
+    return sheet
+
+
+def shooter_room():
+    out = flat("M0,0H800V600H0Z", light(PINK, 0.35))
+    for row in range(7):
+        for col in range(8):
+            out += flat(ellipse(col * 110 + row % 2 * 55, row * 92 + 20, 26, 22), light(PINK, 0.55))
+    out += flat("M-10,470Q200,420 400,452T810,440V610H-10Z", light(GREEN, 0.35)) + stroke("M-10,470Q200,420 400,452T810,440", OUTLINE, 4)
+    for x in range(20, 800, 46):
+        out += stroke(f"M{x},{506 + x * 7 % 60}l6,-16", shade(GREEN, 0.3), 4)
+    return out + shadow(660, 470, 84, 10) + move(dog("sad", "cut"), 540, 182)
+
+
+# --- mud and bubble -------------------------------------------------------------------------------
+
+
+def mud_sheet(sheet):
+    """Five lumps of mud of 50 by 50, full to the edges."""
+    looks = ((DARKWOOD, 0), ("#99603a", 1), ("#8a6a4a", 2), ("#a8743a", 3), ("#7d5238", 4))
+    for number, (colour, mood) in enumerate(looks, 1):
+        out = solid(box(1, 1, 48, 48, 9), colour, 5, 3, glint=(15, 9, 8, 3))
+        out += flat(ellipse(17, 22, 5, 6), WHITE) + flat(ellipse(33, 22, 5, 6), WHITE) + flat(ellipse(18, 23, 2.5), OUTLINE) + flat(ellipse(32, 23, 2.5), OUTLINE)
+        out += stroke(("M18,36H32", "M18,37Q25,31 32,37", "M18,34Q25,40 32,34", "M20,36L24,33L28,37L32,34", "M22,35A3,3 0 1 0 28,35A3,3 0 1 0 22,35")[mood], OUTLINE, 3)
+        sheet.add(f"mud{number}", out)
+    return sheet
+
+
+def soap_bubble(cx, cy, r):
+    out = solid(ellipse(cx, cy, r), SKY, 3, 3, glint=(cx - r * 0.35, cy - r * 0.4, r * 0.28, r * 0.2))
+    return out + stroke(f"M{n(cx + r * 0.55)},{n(cy + r * 0.1)}Q{n(cx + r * 0.45)},{n(cy + r * 0.5)} {n(cx + r * 0.1)},{n(cy + r * 0.6)}", WHITE, 3)
+
+
+def bubble_sheet(sheet):
+    sheet.add("bubble", soap_bubble(18, 18, 16))
+    return sheet
+
+
+def paddle_sheet(sheet):
+    """The bar of soap that sends the bubble up."""
+    out = solid(box(2, 2, 146, 34, 12), PINK, 6, 4, glint=(40, 9, 26, 3)) + stroke(box(20, 10, 110, 18, 9), shade(PINK, 0.3), 3)
+    sheet.add("paddle", out + heart(75, 18, 7))
+    return sheet
+
+
+def brick_room():
+    out = flat("M0,0H800V600H0Z", light(SKY, 0.3))
+    for y in range(0, 480, 60):
+        out += stroke(f"M0,{y}H800", light(SKY, 0.7), 4)
+        for x in range(y // 60 % 2 * 50, 840, 100):
+            out += stroke(f"M{x},{y}V{y + 60}", light(SKY, 0.7), 4)
+    out += flat("M0,500H800V600H0Z", light(TEAL, 0.35)) + stroke("M0,500H800", OUTLINE, 4)
+    out += shadow(560, 500, 190, 10) + move(cat("sad", "muddy"), 430, 148, size=0.9)
+    out += solid("M380,356H742Q752,356 748,376L730,452Q722,486 690,486H432Q400,486 392,452L372,376Q368,356 380,356Z", WHITE, 9)
+    out += stroke("M372,376H748", shade(WHITE, 0.2), 4)
+    for x, y, r in ((404, 350, 22), (440, 342, 26), (484, 350, 22), (640, 350, 24), (684, 344, 27), (724, 352, 20), (600, 354, 18), (528, 354, 18)):
+        out += soap_bubble(x, y, r)
+    return out
+
+
+# --- fleas and butterflies ------------------------------------------------------------------------
+
+FLEA_COLOURS = ("#8a5a44", "#7a4a3a", "#a5653f", "#6b4a5a", "#94704a", "#7d3f3f")
+
+
+def bug(colour, hop=0):
+    """A flea of 64 by 60: brown, with a cheeky face and six legs."""
+    legs = "".join(f"M{x},40L{x + d},{54 + hop}" for x, d in ((20, -8), (30, -3), (40, 4))) + "M46,36L58,30M48,42L58,50M18,34L6,28"
+    out = stroke(legs, OUTLINE, 4)
+    out += solid(ellipse(30, 32, 22, 17), colour, 5, glint=(22, 22, 7, 3)) + stroke("M22,18V46M32,16V48", shade(colour, 0.4), 3)
+    out += solid(ellipse(46, 26, 13, 12), colour, 3) + flat(ellipse(43, 24, 4, 5), WHITE) + flat(ellipse(51, 24, 4, 5), WHITE) + flat(ellipse(44, 25, 2), OUTLINE) + flat(ellipse(52, 25, 2), OUTLINE)
+    return out + stroke("M43,32Q47,35 51,31M40,15L36,6M52,15L56,6", OUTLINE, 2.5)
+
+
+def bug_sheet(sheet):
+    for number, colour in enumerate(FLEA_COLOURS, 1):
+        sheet.add(f"bug{number}a", bug(colour))
+        sheet.add(f"bug{number}b", bug(colour, -6))
+    return sheet
+
+
+def butterfly(fold=1.0):
+    wings = ""
+    for side in (-1, 1):
+        wings += solid(ellipse(32 + side * 15 * fold, 20, 15 * fold, 15), PINK, 3) + solid(ellipse(32 + side * 12 * fold, 42, 11 * fold, 12), YELLOW, 3)
+        wings += flat(ellipse(32 + side * 15 * fold, 19, 6 * fold, 6), WHITE) + flat(ellipse(32 + side * 12 * fold, 42, 4 * fold, 4), CORAL)
+    return wings + solid(ellipse(32, 32, 5, 20), CORAL, 2, 3) + solid(ellipse(32, 12, 7), CORAL, 0, 3) + stroke("M29,7L22,1M35,7L42,1M30,13Q32,15 34,13", OUTLINE, 2.5)
+
+
+def butterfly_sheet(sheet):
+    sheet.add("butterfly1", butterfly())
+    sheet.add("butterfly2", butterfly(0.8))
+    return sheet
+
+
+def bobble_room():
+    out = flat("M0,0H800V420H0Z", "url(#sky)") + cloud(170, 96, 0.8) + cloud(580, 130, 0.7) + cloud(400, 60, 0.5)
+    out += flat("M0,360Q200,300 420,346T800,320V600H0Z", light(GREEN, 0.35)) + stroke("M0,360Q200,300 420,346T800,320", OUTLINE)
+    out += tree(56, 420, 0.95) + tree(752, 414, 0.9)
+    out += flat("M0,470Q300,420 800,474V600H0Z", GREEN) + stroke("M0,470Q300,420 800,474", OUTLINE)
+    out += shadow(400, 566, 100, 10) + move(cat("sad", "plain"), 280, 272)
+    for x, y, c in ((90, 540, PINK), (180, 500, YELLOW), (250, 570, WHITE), (560, 520, CORAL), (640, 570, PINK), (730, 520, YELLOW)):
+        out += flower(x, y, c, 0.95)
+    return out
+
+
+# --- hints ----------------------------------------------------------------------------------------
+
+
+def hint(sheet, sign):
+    """A board of 440 by 310: the hint above, room for the tick below."""
+    out = solid(box(8, 8, 424, 294, 34), CREAM, 8) + stroke(box(24, 24, 392, 262, 24), YELLOW, 5)
+    sheet.add("panel", out + sign)
+    return sheet
+
+
+def square_hint():
+    small = solid(box(-4, -4, 148, 148, 10), WOOD, 0) + move(tile_picture(), 0, 0, size=140 / 390)
+    piece = move(tile(5), 0, 0, size=0.5)
+    return move(piece, 44, 70) + arrow(128, 100, 0.8, fill=YELLOW) + hand(66, 146, 1.2) + move(small, 164, 34) + move(cog_button(360, 100, 36, GREEN, tick(360, 97, 0.85)), 0, 0)
+
+
+def shooter_hint():
+    out = move(germ(GREEN), 56, 36) + move(germ("#b48ad6"), 136, 36) + antiseptic(106, 152, 0.95)
+    out += "".join(move(solid("M11,2Q20,14 20,20A9,9 0 0 1 2,20Q2,14 11,2Z", SKY, 3, 3), 82, y) for y in (98,))
+    out += hand(174, 160, 1.3) + arrow(240, 100, 0.9, fill=YELLOW)
+    return out + sparkle(306, 60, 24, YELLOW) + sparkle(366, 84, 16) + dog_face(330, 134, 1.05)
+
+
+def brick_hint():
+    mud = solid(box(1, 1, 48, 48, 9), DARKWOOD, 5, 3) + flat(ellipse(18, 22, 4), WHITE) + flat(ellipse(32, 22, 4), WHITE)
+    out = move(mud, 50, 36) + move(mud, 102, 36) + soap_bubble(150, 112, 16) + stroke("M166,130L184,148", OUTLINE, 3) + stroke("M128,100L110,90", OUTLINE, 3)
+    out += move(solid(box(0, 0, 110, 26, 10), PINK, 5), 104, 154) + arrow(66, 168, 0.6, turn=180, fill=YELLOW) + arrow(256, 168, 0.6, fill=YELLOW)
+    return out + arrow(268, 86, 0.8, fill=YELLOW) + cat_face(350, 96, 1.2) + sparkle(392, 48, 12)
+
+
+def bobble_hint():
+    out = move(bug(FLEA_COLOURS[0]), 46, 44) + hand(108, 108, 1.4) + cog_button(150, 76, 26, GREEN, tick(150, 73, 0.65))
+    out += stroke("M212,40V176", YELLOW, 5)
+    return out + move(butterfly(), 246, 44) + hand(312, 108, 1.4) + cog_button(360, 76, 26, CORAL, no_cross(360, 74, 0.65))
+
+
+# --- buttons and counters -------------------------------------------------------------------------
+
+
+def small_buttons(sheet, add_states):
+    """Help, the way out, and the tick that confirms it: 84 by 92 each."""
+    add_states(sheet, "help", cog_button(42, 46, 36, SKY, question(42, 38, 0.8, YELLOW)))
+    door = solid("M16,84V26Q16,10 32,10H52Q68,10 68,26V84Z", CORAL, 5) + solid("M26,84V32Q26,20 38,20H46Q58,20 58,32V84Z", light(YELLOW, 0.4), 0, 3)
+    add_states(sheet, "leave", door + move(arrow(0, 0, 0.75, turn=180, fill=TEAL), 42, 56))
+    add_states(sheet, "tick", cog_button(42, 46, 36, GREEN, tick(42, 43, 0.9)))
+    return sheet
+
+
+def replay_button(sheet, add_states):
+    add_states(sheet, "replay", cog_button(92, 92, 80, ORANGE, again(88, 88, 1.7)))
+    return sheet
+
+
+def star_counter(sheet):
+    """Fifteen stars, of which 0 to 15 shine."""
+    for shining in range(16):
+        out = solid(box(2, 2, 308, 32, 15), CREAM, 0, 3)
+        for i in range(15):
+            out += flat(star_path(22 + i * 19.2, 18, 9), YELLOW if i < shining else shade(CREAM, 0.12)) + stroke(star_path(22 + i * 19.2, 18, 9), OUTLINE, 1.5)
+        sheet.add(f"stars{shining}", out)
+    return sheet
+
+
+def bubble_counter(sheet):
+    """The bubbles that are left: three, two, one."""
+    for left in (3, 2, 1):
+        out = solid(box(2, 2, 128, 44, 20), CREAM, 0, 3)
+        for i in range(3):
+            out += soap_bubble(26 + i * 40, 24, 14) if i < left else flat(ellipse(26 + i * 40, 24, 11), shade(CREAM, 0.12))
+        sheet.add(f"bubbles{left}", out)
+    return sheet
+
+
+def arcade_sheets(make_sheet, add_states):
+    """The pictures by name; `make_sheet(w, h, columns)` gives an empty sheet."""
+
+    def room(draw):
+        def made():
+            sheet = make_sheet(800, 600, 1)
+            sheet.add("room", draw())
+            return sheet
+
+        return made
+
+    def cells(w, h, columns, fill):
+        return lambda: fill(make_sheet(w, h, columns))
+
+    def board(sign):
+        return lambda: hint(make_sheet(440, 310, 1), sign())
+
+    shared = "Info/GlobalReferences/arcade/"
+    return {
+        "Info/squarescreen/room": room(square_room),
+        "Info/squarescreen/hint": board(square_hint),
+        "Info/squarescreen/tile": cells(TILE, TILE, 4, tile_sheet),
+        "Info/shooterscreen/room": room(shooter_room),
+        "Info/shooterscreen/hint": board(shooter_hint),
+        "Info/shooterscreen/germ": cells(64, 60, 2, germ_sheet),
+        "Info/shooterscreen/spray": cells(60, 64, 1, spray_sheet),
+        "Info/shooterscreen/drop": cells(22, 30, 2, drop_sheet),
+        "Info/brickscreen/room": room(brick_room),
+        "Info/brickscreen/hint": board(brick_hint),
+        "Info/brickscreen/mud": cells(50, 50, 5, mud_sheet),
+        "Info/brickscreen/bubble": cells(36, 36, 1, bubble_sheet),
+        "Info/brickscreen/paddle": cells(150, 38, 1, paddle_sheet),
+        "Info/bobblescreen/room": room(bobble_room),
+        "Info/bobblescreen/hint": board(bobble_hint),
+        "Info/bobblescreen/bug": cells(64, 60, 2, bug_sheet),
+        "Info/bobblescreen/butterfly": cells(64, 60, 2, butterfly_sheet),
+        shared + "small": lambda: small_buttons(make_sheet(84, 92, 3), add_states),
+        shared + "replay": lambda: replay_button(make_sheet(184, 184, 3), add_states),
+        shared + "stars": cells(312, 36, 2, star_counter),
+        shared + "bubbles": cells(132, 48, 3, bubble_counter),
+    }
