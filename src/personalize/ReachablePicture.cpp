@@ -27,7 +27,8 @@ std::uint32_t MeanOfBlock(const Picture& picture, int left, int top, int side) {
 
 Picture Shrunk(const Picture& picture, int factor) {
   // A strip narrower than the factor keeps one pixel.
-  const Size size{std::max(picture.size.width / factor, 1), std::max(picture.size.height / factor, 1)};
+  const Size size{std::max(picture.size.width / factor, 1),
+                  std::max(picture.size.height / factor, 1)};
   const int side = std::min({factor, picture.size.width, picture.size.height});
   Picture small{size, {}};
   small.words.reserve(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));

@@ -49,8 +49,7 @@ frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
            "    Locate the face in the picture and click around the edges to form an outline. ",
            {130, 50, 762, 74});
   AddLabel(form_, "lblHelp",
-           "Click point by point, all the way round. The last point is joined to the first one by "
-           "itself.",
+           "Click all the way round: the outline closes by itself. The bars move the photograph.",
            {146, 74, 762, 98});
   AddPicturePair(form_, 5, "undo", "Undo", {222, 520, 382, 572});
   AddPicturePair(form_, 13, "reset", "Start over", {398, 520, 558, 572});
@@ -220,8 +219,7 @@ void frmPartitionPicture::ScrollTo() {
   scroll_x_ = form_.Find("HScroll1")->value * kScrollStep;
   scroll_y_ = form_.Find("VScroll1")->value * kScrollStep;
   const Size size = picture_->size;
-  const int left =
-      view_.left + Centred(view_.Width(), size.width) - scroll_x_ / kTwipsPerPixel;
+  const int left = view_.left + Centred(view_.Width(), size.width) - scroll_x_ / kTwipsPerPixel;
   const int top = view_.top + Centred(view_.Height(), size.height) - scroll_y_ / kTwipsPerPixel;
   Image().area = {left, top, left + size.width, top + size.height};
   Image().clip = view_;

@@ -13,7 +13,7 @@ namespace quendle {
 namespace {
 
 constexpr int kLastPicture = 12;
-constexpr Rect kPreview{300, 92, 582, 350};
+constexpr Rect kPreview{306, 98, 576, 346};
 constexpr const char* kRemoveLink = "lblRemove";
 
 const std::vector<FileFilter>& PictureFilters() {
@@ -53,7 +53,7 @@ frmSelectPicture::frmSelectPicture(const PersonalizeServices& services)
   AddFrame(form_, "Frame1", "", {296, 78, 586, 354});
   AddLabel(form_, "lblEmpty", "Your photograph is shown here.", {320, 200, 570, 230});
   AddImage(form_, "Image1", 0, kPreview).visible = false;
-  AddLink(form_, kRemoveLink, "Remove my photograph from the game", {182, 396, 430, 420});
+  AddLink(form_, kRemoveLink, "Remove my photograph from the game", {306, 357, 586, 379});
   Finish();
 }
 

@@ -23,8 +23,8 @@ enum class RasterOp : std::uint32_t {
   kNotSourceCopy = 0x330008  // not S
 };
 
-// Memory contexts, bitmaps and regions. Operations on a handle of 0 or an unknown handle do nothing and
-// give 0, false or the invalid colour; copies are clipped to both bitmaps.
+// Memory contexts, bitmaps and regions. Operations on a handle of 0 or an unknown handle do nothing
+// and give 0, false or the invalid colour; copies are clipped to both bitmaps.
 class Gdi {
  public:
   virtual ~Gdi() = default;

@@ -162,9 +162,8 @@ void TandrelPrompt::ShowOptionsDialog() {
 
 void TandrelPrompt::ShowPersonalizeDialog() {
   if (!select_picture_) {
-    select_picture_ = std::make_unique<frmSelectPicture>(
-        PersonalizeServices{services_, *this, boxes_, ports_.gdi, ports_.picture_loader,
-                            ports_.picture_saver});
+    select_picture_ = std::make_unique<frmSelectPicture>(PersonalizeServices{
+        services_, *this, boxes_, ports_.gdi, ports_.picture_loader, ports_.picture_saver});
   }
   SetShown(false);
   select_picture_->Open();

@@ -12,9 +12,7 @@ namespace {
 class JsonInspector : public Inspector {
  public:
   explicit JsonInspector(Json& fields) : fields_(fields) {}
-  void Field(std::string_view name, std::string_view value) override {
-    At(name) = TextJson(value);
-  }
+  void Field(std::string_view name, std::string_view value) override { At(name) = TextJson(value); }
   void Field(std::string_view name, long value) override { At(name) = value; }
   void Flag(std::string_view name, bool value) override { At(name) = value; }
 

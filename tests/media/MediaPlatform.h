@@ -114,8 +114,8 @@ struct MediaPlatform {
   NotedLog log;
   PictureDecoderLoader picture_loader;
   BitmapPictureSaver picture_saver{files};
-  Ports ports{files,       clock, timers, random, boxes, gdi,
-              direct_draw, modes, graphs, window, forms, system, picture_loader, picture_saver};
+  Ports ports{files,  clock,  timers, random, boxes,          gdi,          direct_draw, modes,
+              graphs, window, forms,  system, picture_loader, picture_saver};
   ContentFiles content{files, settings};
   MediaWorld world{settings, ports, content};
 };

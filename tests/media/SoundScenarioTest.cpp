@@ -54,9 +54,11 @@ class SoundScenario : public ::testing::Test {
   MediaPlatform platform_;
   LoopbackSound sound_;
   OpenAlFilterGraphs graphs_{platform_.files, sound_.clock, sound_.device};
-  Ports ports_{platform_.files, platform_.clock,  platform_.timers,      platform_.random,
-               platform_.boxes, platform_.gdi,    platform_.direct_draw, platform_.modes,
-               graphs_,         platform_.window, platform_.forms,       platform_.system};
+  Ports ports_{platform_.files,          platform_.clock,        platform_.timers,
+               platform_.random,         platform_.boxes,        platform_.gdi,
+               platform_.direct_draw,    platform_.modes,        graphs_,
+               platform_.window,         platform_.forms,        platform_.system,
+               platform_.picture_loader, platform_.picture_saver};
   MediaWorld world_{platform_.settings, ports_, platform_.content};
   std::shared_ptr<Speaker> speaker_ = std::make_shared<Speaker>(graphs_);
 };

@@ -21,6 +21,8 @@ import tempfile
 REST = "..."  # at the front of an expected list: these, in this order, among others
 RESTART = "---"
 TIME_LIMIT = 240  # seconds a process
+DATA_WORD = "{data}"  # in a command: the folder tests/data
+DATA = pathlib.Path(__file__).resolve().parent.parent / "data"
 
 
 class Step:
@@ -130,7 +132,7 @@ def play(quendle, content, run, folder):
     """The answers of one process, and its exit code."""
     user = folder / "user"
     command = [quendle, "drive", "--content", content, "--user", str(user), *run.options]
-    text = "".join(step.command + "\n" for step in run.steps)
+    text = "".join(step.command.replace(DATA_WORD, str(DATA)) + "\n" for step in run.steps)
     done = subprocess.run(command, input=text, capture_output=True, encoding="utf-8", cwd=folder,
                           timeout=TIME_LIMIT, check=False)
     return done.stdout.splitlines(), done.returncode, done.stderr.strip()

@@ -99,7 +99,9 @@ class TickingBoxes : public Boxes {
   }
   bool YesNoBox(const std::string&, const std::string&) override { return true; }
   std::string InputBox(const std::string&, const std::string&) override { return ""; }
-  std::string ChooseFile(const std::string&) override { return ""; }
+  std::string ChooseFile(const std::string&, const std::vector<FileFilter>&) override {
+    return "";
+  }
 
  private:
   HeadlessBackend& backend_;
@@ -111,9 +113,20 @@ TEST(FaultBox, NothingIsDrawnWhileTheBoxOfAFaultStands) {
   TickingBoxes boxes(backend);
   PutSmallClinic(platform.files);
   platform.files.Put("\\DialogMode.txt", "On\n");
-  Ports ports{platform.files,  backend.clock,  backend.timers,      backend.random,
-              boxes,           backend.gdi,    backend.direct_draw, backend.display_modes,
-              platform.graphs, backend.window, backend.forms,       backend.system};
+  Ports ports{platform.files,
+              backend.clock,
+              backend.timers,
+              backend.random,
+              boxes,
+              backend.gdi,
+              backend.direct_draw,
+              backend.display_modes,
+              platform.graphs,
+              backend.window,
+              backend.forms,
+              backend.system,
+              backend.picture_loader,
+              backend.picture_saver};
   Application application(ports, 2, kBase);
   application.Start();
   application.Deliver([&] { backend.forms.Press("Picture1", 1); });

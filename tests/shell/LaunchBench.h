@@ -26,9 +26,7 @@ class RecordingBoxes : public Boxes {
     return yes;
   }
   std::string InputBox(const std::string&, const std::string&) override { return ""; }
-  std::string ChooseFile(const std::string&, const std::vector<FileFilter>&) override {
-    return "";
-  }
+  std::string ChooseFile(const std::string&, const std::vector<FileFilter>&) override { return ""; }
 
   bool yes = true;
   std::vector<Shown> shown;

@@ -264,9 +264,12 @@ TEST_F(BlinkerGame, BallAndPaddleStillMoveInTheTickOfAWin) {
 TEST_F(BlinkerGame, AWonGameDoesNotLoseItsBallInTheSameTick) {
   bench.StartGame();
   bench.HideAllBricks();
+  (*bench.game->Children().Find("replay"))->SetVisible(false);
   PutBall(500, 590);
   bench.GameTick();
   EXPECT_EQ(bench.top->messages, Lines{"subgame_won"});
+  EXPECT_EQ(bench.Counter("m_nBalls"), 3);
+  EXPECT_FALSE(bench.IsShown("replay"));
 }
 
 TEST_F(BlinkerGame, StartingAgainAfterAStopLetsTheTicksRun) {

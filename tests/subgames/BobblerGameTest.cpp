@@ -187,9 +187,13 @@ TEST_F(BobblerGame, TheScanEndsWithTheGame) {
   dynamic_cast<CellPlayArea&>(*bench.area).DecrementLife(4);
   PutCell(CellNumber(1), 300, 500);
   PutCell(CellNumber(3), 300, 500);
+  // The bad cells that still come stand under the pointer.
+  for (int i = 0; i < 3; ++i) bench.Queue({0.5, 0.5, 300.0 / 800, 500.0 / 600});
   bench.Click(310, 510);
   EXPECT_EQ(bench.top->messages, Lines{"subgame_lost"});
   EXPECT_EQ(bench.Counter("m_nLives"), 0);
+  EXPECT_EQ(CellNumber(33).xpos(), 300);
+  EXPECT_TRUE(CellNumber(33).Visible());
 }
 
 TEST_F(BobblerGame, ASecondGameGoesOnWithTheLivesThatAreLeft) {

@@ -332,6 +332,7 @@ TEST_F(PlayerHits, TheShotThatEndsTheGameIsStillDestroyed) {
   QuietTick();
   EXPECT_EQ(bench.top->messages, Lines{"subgame_lost"});
   EXPECT_TRUE(dynamic_cast<CellObject_Shot&>(*shot).GettingDestroyed());
+  EXPECT_EQ(bench.Number(*shot, "life"), 2) << "and no longer updated";
 }
 
 TEST_F(PlayerHits, AGameThatIsLostInATickIsNotWonInTheSameOne) {

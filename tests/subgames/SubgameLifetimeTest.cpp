@@ -201,30 +201,53 @@ TEST(SubgameEnd, AnOutcomeMayEnterTheSameGameAtOnce) {
 
 // A hall that holds a subgame stays in the cache: the same area is turned on anew inside the end of
 // its own game.
-TEST(SubgameEnd, AnAreaThatIsPreparedAnewInItsOwnTickKeepsItsNewCells) {
-  for (const bool won : {true, false}) {
-    BobblerBench bench;
-    bench.StartClinic(OnOutcome(won ? "gamewon" : "gamelost", {"mtp subgame_floor1hall1"}));
-    bench.logic->Send("cs_introscreen");
-    bench.PutObject("floor1hall1", "hall", {"\\info\\game.txt"});
-    bench.logic->Send("cs_patient1");
-    bench.logic->Send("subgame_floor1hall1");
-    auto frame = *bench.logic->CurrentScreen()->Children().Find("game");
-    bench.TakeArea(frame);
-    bench.area->Send("startgame");
-    bench.SpreadOut();
-    if (won) {
-      for (int i = 2; i <= 30; i += 2) bench.Cell("cell" + std::to_string(i)).SetVisible(false);
-      bench.GameTick();
-    } else {
-      dynamic_cast<CellPlayArea&>(*bench.area).DecrementLife(4);
-      bench.ClickCell(1);
-    }
-    EXPECT_EQ(bench.Screen(), "floor1hall1");
-    EXPECT_EQ(bench.Counter("m_colCells"), 30) << "a new field, with no cells of the old game";
-    EXPECT_EQ(bench.Counter("m_nCellCount"), 30);
-    EXPECT_EQ(bench.Counter("m_bStopped"), 1);
-  }
+template <class Bench>
+void EnterCachedGame(Bench& bench, const std::string& outcome) {
+  bench.StartClinic(OnOutcome(outcome, {"mtp subgame_floor1hall1"}));
+  bench.PutObject("floor1hall1", "hall", {"\\info\\game.txt"});
+  bench.logic->Send("subgame_floor1hall1");
+  bench.TakeArea(*bench.logic->CurrentScreen()->Children().Find("game"));
+  bench.area->Send("startgame");
+}
+
+TEST(SubgameEnd, ABobblerThatIsPreparedAnewInItsOwnTickKeepsItsNewCells) {
+  BobblerBench bench;
+  EnterCachedGame(bench, "gamewon");
+  for (int i = 2; i <= 30; i += 2) bench.Cell("cell" + std::to_string(i)).SetVisible(false);
+  bench.GameTick();
+  EXPECT_EQ(bench.Screen(), "floor1hall1");
+  EXPECT_EQ(bench.Counter("m_colCells"), 30);
+  EXPECT_EQ(bench.Counter("m_bStopped"), 1);
+}
+
+TEST(SubgameEnd, ABobblerThatIsPreparedAnewInItsOwnClickGetsNoCellsOfTheOldGame) {
+  BobblerBench bench;
+  EnterCachedGame(bench, "gamelost");
+  bench.SpreadOut();
+  dynamic_cast<CellPlayArea&>(*bench.area).DecrementLife(4);
+  bench.ClickCell(1);
+  EXPECT_EQ(bench.Screen(), "floor1hall1");
+  EXPECT_EQ(bench.Counter("m_colCells"), 30);
+  EXPECT_EQ(bench.Counter("m_nCellCount"), 30);
+}
+
+TEST(SubgameEnd, AShooterThatIsPreparedAnewInItsOwnTickIsNotWonInIt) {
+  ShooterBench bench;
+  EnterCachedGame(bench, "gamelost");
+  dynamic_cast<CellPlayArea&>(*bench.area).DecrementLife(1);
+  bench.Tick(60 * 5);
+  for (const char* name : {"cell21", "cell22"}) bench.Cell(name).SetVisible(false);
+  auto& player = bench.Cell("cell111");
+  auto& shot = bench.CellAs<CellObject_Shot>("shot1");
+  shot.Reset();
+  shot.SetVisible(true);
+  shot.SetGoodCell(false);
+  shot.Setxpos(static_cast<std::int16_t>(player.xpos() + 10));
+  shot.Setypos(535);
+  bench.Tick(60);
+  EXPECT_EQ(bench.Screen(), "floor1hall1");
+  EXPECT_EQ(bench.Counter("m_colCells"), 13);
+  EXPECT_EQ(bench.Counter("m_nLives"), 2);
 }
 
 TEST(SubgameEnd, LeavingInTheMiddleAndComingBackBuildsTheFieldAnew) {

@@ -40,10 +40,20 @@ struct TestPlatform {
   HeadlessBackend backend{files, faults};
   FakeSounds sounds;
   Settings settings;
-  Ports ports{files,         backend.clock,  backend.timers,      backend.random,
-              backend.boxes, backend.gdi,    backend.direct_draw, backend.display_modes,
-              sounds,        backend.window, backend.forms,       backend.system,
-              backend.picture_loader, backend.picture_saver};
+  Ports ports{files,
+              backend.clock,
+              backend.timers,
+              backend.random,
+              backend.boxes,
+              backend.gdi,
+              backend.direct_draw,
+              backend.display_modes,
+              sounds,
+              backend.window,
+              backend.forms,
+              backend.system,
+              backend.picture_loader,
+              backend.picture_saver};
   ContentFiles content{files, settings};
 };
 

@@ -17,7 +17,7 @@ namespace quendle {
 namespace {
 
 std::uint32_t Keyed(std::uint32_t pixel) {
-  Picture picture{1, 1, {pixel}};
+  SheerPicture picture{1, 1, {pixel}};
   KeyPicture(picture);
   return picture.pixels[0];
 }
@@ -107,7 +107,7 @@ TEST(ToolBelt, AScreenIsRenderedAndTheTreeStaysAsItWas) {
   MakeNewContent(folder.File("tree"));
   const std::string picture = folder.File("hall.png");
   EXPECT_EQ(RunToolBelt({"render", folder.File("tree"), "hall", picture}), 0);
-  const Picture hall = ReadPng(picture);
+  const SheerPicture hall = ReadPng(picture);
   EXPECT_EQ(hall.width, 800);
   EXPECT_EQ(hall.height, 600);
   EXPECT_EQ(hall.pixels[799] & 0xFFFFFF, 0xF2E2BFu);

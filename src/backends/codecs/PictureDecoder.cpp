@@ -47,8 +47,8 @@ AVCodecID CodecOf(PictureKind kind) {
 
 std::string TooLarge(const PictureHeader& header) {
   return "This photograph is too large: it has " +
-         std::to_string(header.width * header.height / kMillion) +
-         " million points, and " + std::to_string(kMostPicturePoints / kMillion) +
+         std::to_string(header.width * header.height / kMillion) + " million points, and " +
+         std::to_string(kMostPicturePoints / kMillion) +
          " million are the most. Please choose a smaller one, or save it smaller first.";
 }
 
@@ -60,6 +60,9 @@ Codec OpenCodec(PictureKind kind) {
   codec->max_pixels = kMostPicturePoints;
   codec->err_recognition = AV_EF_EXPLODE;
   codec->thread_count = 1;
+  // The same pixels on every machine.
+  codec->flags |= AV_CODEC_FLAG_BITEXACT;
+  codec->idct_algo = FF_IDCT_SIMPLE;
   codec->log_level_offset = 2 * AV_LOG_TRACE;  // the player is told; the terminal is not
   if (avcodec_open2(codec.get(), decoder, nullptr) < 0) return nullptr;
   return codec;

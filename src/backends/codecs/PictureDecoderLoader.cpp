@@ -41,7 +41,8 @@ LoadedPicture PictureDecoderLoader::LoadPicture(const std::string& native_path) 
     if (!decoded.problem.empty()) return {nullptr, decoded.problem};
     return {std::make_shared<const Picture>(std::move(decoded.picture)), {}};
   } catch (const std::bad_alloc&) {
-    return {nullptr, "There is not enough memory for this photograph. Please choose a smaller one."};
+    return {nullptr,
+            "There is not enough memory for this photograph. Please choose a smaller one."};
   }
 }
 

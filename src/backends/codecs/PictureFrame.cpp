@@ -7,6 +7,7 @@ extern "C" {
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <utility>
 
 namespace quendle {
@@ -27,10 +28,9 @@ class FrameReader {
         format_(format),
         count_(format.nb_components),
         palette_((format.flags & AV_PIX_FMT_FLAG_PAL) != 0),
-        colors_are_rgb_((format.flags & AV_PIX_FMT_FLAG_RGB) != 0 || palette_),
-        has_alpha_((format.flags & AV_PIX_FMT_FLAG_ALPHA) != 0 || palette_),
+        colors_are_rgb_((format.flags & AV_PIX_FMT_FLAG_RGB) != 0),
+        has_alpha_((format.flags & AV_PIX_FMT_FLAG_ALPHA) != 0),
         limited_range_(frame.color_range == AVCOL_RANGE_MPEG) {
-    if (palette_) count_ = kMostComponents;
     for (auto& component : row_.components) component.resize(Columns());
     // A frame has room for more planes than any picture has.
     std::copy_n(frame.data, planes_.size(), planes_.begin());
@@ -41,10 +41,10 @@ class FrameReader {
     for (int c = 0; c < count_; ++c) {
       std::vector<std::uint16_t>& values = row_.components[static_cast<std::size_t>(c)];
       av_read_image_line(values.data(), planes_.data(), strides_.data(), &format_, 0,
-                         y >> RowShift(c), c, ComponentWidth(c), palette_ ? 1 : 0);
-      const int depth = palette_ ? 8 : format_.comp[c].depth;
+                         y >> RowShift(c), c, ComponentWidth(c), 0);
+      const int depth = format_.comp[c].depth;
       const int most = (1 << depth) - 1;
-      if (depth == 8) continue;
+      if (depth == 8 || palette_) continue;
       for (std::uint16_t& value : values) {
         value = static_cast<std::uint16_t>((value * 255 + most / 2) / most);
       }
@@ -52,6 +52,7 @@ class FrameReader {
   }
 
   std::uint32_t Word(int x) const {
+    if (palette_) return PaletteWord(Value(0, x));
     int red = Value(0, x);
     int green = red;
     int blue = red;
@@ -79,12 +80,19 @@ class FrameReader {
   }
   int RowShift(int component) const { return IsCoarse(component) ? format_.log2_chroma_h : 0; }
   int ColumnShift(int component) const { return IsCoarse(component) ? format_.log2_chroma_w : 0; }
-  int ComponentWidth(int component) const {
-    return -((-frame_.width) >> ColumnShift(component));
-  }
+  int ComponentWidth(int component) const { return -((-frame_.width) >> ColumnShift(component)); }
   int Value(int component, int x) const {
     return row_.components[static_cast<std::size_t>(component)]
                           [static_cast<std::size_t>(x >> ColumnShift(component))];
+  }
+  // A palette is the frame's second plane: words of alpha, red, green and blue, alpha highest.
+  std::uint32_t PaletteWord(int index) const {
+    std::uint32_t entry = 0;
+    std::memcpy(&entry, planes_[1] + index * sizeof(entry), sizeof(entry));
+    const auto channel = [entry](int shift) { return static_cast<int>(entry >> shift & 255); };
+    const int alpha = channel(24);
+    return Blend(channel(16), alpha) << 16 | Blend(channel(8), alpha) << 8 |
+           Blend(channel(0), alpha);
   }
   static std::uint32_t Blend(int value, int alpha) {
     const int whole = std::clamp(value, 0, 255);
@@ -134,10 +142,10 @@ Picture Upright(Picture picture, int orientation) {
   Picture upright{lying ? Size{height, width} : picture.size, {}};
   upright.words.reserve(picture.words.size());
   // Where in the stored picture a point of the upright one is found.
-  const bool from_right = orientation == 2 || orientation == 3 || orientation == 7 ||
-                          orientation == 8;
-  const bool from_below = orientation == 3 || orientation == 4 || orientation == 6 ||
-                          orientation == 7;
+  const bool from_right =
+      orientation == 2 || orientation == 3 || orientation == 7 || orientation == 8;
+  const bool from_below =
+      orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
   for (int y = 0; y < upright.size.height; ++y) {
     for (int x = 0; x < upright.size.width; ++x) {
       const int column = lying ? y : x;

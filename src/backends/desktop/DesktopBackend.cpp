@@ -40,8 +40,9 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
       picture_saver_(files_),
       boxes_(loop_, *window_, painter_, text_, picture_loader_),
       system_(LockFileOf(program, folders_.fallback), [this] { Beep(); }),
-      ports_{files_,       clock_,         loop_.Timers(), random_,  boxes_, gdi_,
-             direct_draw_, display_modes_, filter_graphs_, *window_, forms_, system_, picture_loader_, picture_saver_} {
+      ports_{files_, clock_,       loop_.Timers(),  random_,        boxes_,
+             gdi_,   direct_draw_, display_modes_,  filter_graphs_, *window_,
+             forms_, system_,      picture_loader_, picture_saver_} {
   if (!library_.HasVideo()) {
     throw FatalError("no display can be opened: " + library_.Problem());
   }

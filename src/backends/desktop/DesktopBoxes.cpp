@@ -45,8 +45,7 @@ class Deaf : public SdlEventTarget {
 class Ticker {
  public:
   Ticker(TimerService& timers, const std::function<void()>& work)
-      : timers_(timers),
-        id_(timers.SetTimer(kTick, "DesktopBoxes", [work](int) { work(); })) {}
+      : timers_(timers), id_(timers.SetTimer(kTick, "DesktopBoxes", [work](int) { work(); })) {}
   ~Ticker() { timers_.KillTimer(id_); }
   Ticker(const Ticker&) = delete;
   Ticker& operator=(const Ticker&) = delete;
@@ -103,8 +102,8 @@ std::string DesktopBoxes::ChooseInOwnForm(const std::string& title,
   PictureChooser chooser(title, patterns, folder_, loader_);
   FormInput input(chooser.Record(), chooser);
   const bool stood = text_.HasFont() && Stand(
-      input, [&] { return chooser.Answer().has_value(); },
-      [&] { return chooser.ReadNextPicture(); });
+                                            input, [&] { return chooser.Answer().has_value(); },
+                                            [&] { return chooser.ReadNextPicture(); });
   return stood ? *chooser.Answer() : "";
 }
 

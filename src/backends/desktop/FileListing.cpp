@@ -59,9 +59,8 @@ fs::path NamedPicturesFolder(const fs::path& home) {
 }  // namespace
 
 bool FitsPattern(const std::string& name, const std::string& patterns) {
-  return std::ranges::any_of(SplitTokens(patterns, ';'), [&](const std::string& pattern) {
-    return FitsOne(name, pattern);
-  });
+  return std::ranges::any_of(SplitTokens(patterns, ';'),
+                             [&](const std::string& pattern) { return FitsOne(name, pattern); });
 }
 
 std::vector<ListedFile> ListFolder(const fs::path& folder, const std::string& patterns) {

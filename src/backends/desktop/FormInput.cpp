@@ -117,7 +117,9 @@ void FormInput::WheelOne(bool lying, int notches) {
            IsLying(control) == lying;
   });
   if (notches == 0 || found == form_.controls.end()) return;
-  events_.Set(*found, std::clamp(found->value + notches * std::min(kWheelStep, 1 + found->maximum / 8), 0, found->maximum));
+  events_.Set(*found,
+              std::clamp(found->value + notches * std::min(kWheelStep, 1 + found->maximum / 8), 0,
+                         found->maximum));
 }
 
 void FormInput::PressAt(int position, Point at) {

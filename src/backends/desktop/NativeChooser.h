@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <sys/types.h>
 #include <vector>
 
 #include "platform/Boxes.h"
@@ -31,7 +30,7 @@ class NativeChooser {
   void ReadOutput();
   void Finish(int status);
 
-  pid_t child_ = -1;
+  int child_ = -1;   // number of its process
   int output_ = -1;  // descriptor
   bool served_ = false;
   std::string told_;

@@ -122,8 +122,8 @@ void PictureChooser::ShowTile(int tile, std::size_t entry) {
   if (!image.visible) return;
   const ListedFile& file = entries_[entry];
   const Rect place = TilePlace(tile);
-  const Rect room = InMiddle({place.left, place.top + 14, place.right, place.bottom - 20},
-                             kThumbnail);
+  const Rect room =
+      InMiddle({place.left, place.top + 14, place.right, place.bottom - 20}, kThumbnail);
   const bool above = entry == 0 && file.folder && file.path == folder_.parent_path();
   const std::string text = FromUtf8(file.path.filename().string());
   name.text = above ? "(folder above)" : Shortened(text, kLongestName, false);

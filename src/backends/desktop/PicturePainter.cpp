@@ -69,7 +69,8 @@ Size FittingSize(Size picture, Size room) {
 
 Picture Stretched(const Picture& picture, Size size) {
   Picture result{size, {}};
-  result.words.reserve(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
+  result.words.reserve(static_cast<std::size_t>(size.width) *
+                       static_cast<std::size_t>(size.height));
   for (int y = 0; y < size.height; ++y) {
     const Block rows(y, picture.size.height, size.height);
     for (int x = 0; x < size.width; ++x) {

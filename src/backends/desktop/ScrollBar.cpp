@@ -24,7 +24,8 @@ Vec KnobCentre(const Control& bar) {
   const double part = bar.maximum > 0 ? static_cast<double>(bar.value) / bar.maximum : 0;
   const double radius = KnobRadius(bar);
   const double at = radius + WayLength(bar) * std::clamp(part, 0.0, 1.0);
-  return {bar.area.left + (IsLying(bar) ? at : radius), bar.area.top + (IsLying(bar) ? radius : at)};
+  return {bar.area.left + (IsLying(bar) ? at : radius),
+          bar.area.top + (IsLying(bar) ? radius : at)};
 }
 
 int ScrollValueAt(const Control& bar, Point at) {

@@ -11,8 +11,9 @@ HeadlessBackend::HeadlessBackend(FileSystem& files, Faults& platform_faults, std
       filter_graphs(files, clock, faults),
       window(gdi, screen, faults),
       picture_saver(files),
-      ports{files,       clock,         timers,        random, boxes, gdi,
-            direct_draw, display_modes, filter_graphs, window, forms, system, picture_loader, picture_saver} {}
+      ports{files, clock,       timers,         random,        boxes,
+            gdi,   direct_draw, display_modes,  filter_graphs, window,
+            forms, system,      picture_loader, picture_saver} {}
 
 void HeadlessBackend::Tick(Milliseconds time, const Deliver& deliver, const Fired& fired) {
   const Milliseconds end = clock.Monotonic() + time;

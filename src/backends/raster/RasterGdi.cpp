@@ -147,9 +147,8 @@ BitmapHandle RasterGdi::CreatePictureBitmap(const Picture& picture) {
   if (picture.Empty() || faults_.Fails("CreatePictureBitmap")) return 0;
   PixelBuffer pixels = std::make_unique_for_overwrite<std::uint32_t[]>(picture.words.size());
   std::ranges::copy(picture.words, pixels.get());
-  bitmaps_.emplace(++last_handle_,
-                   std::make_shared<RasterBitmap>(picture.size.width, picture.size.height,
-                                                  std::move(pixels)));
+  bitmaps_.emplace(++last_handle_, std::make_shared<RasterBitmap>(
+                                       picture.size.width, picture.size.height, std::move(pixels)));
   return last_handle_;
 }
 

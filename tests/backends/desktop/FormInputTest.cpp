@@ -21,6 +21,11 @@ class Recorder : public FormEvents {
     log.push_back("press " + control.name + " " + std::to_string(at.x) + "," +
                   std::to_string(at.y));
   }
+  void Set(Control& control, int value) override {
+    control.value = value;
+    log.push_back("set " + control.name + " " + std::to_string(value));
+  }
+  void Drop(const std::string& path) override { log.push_back("drop " + path); }
   void Key(FormKey) override { log.push_back("key"); }
   void QueryClose() override { log.push_back("close"); }
 
@@ -143,6 +148,45 @@ TEST_F(FormInputTest, TheKeyboardShowsTheFocusAndThePointerHidesIt) {
   EXPECT_TRUE(input_.Look().show_focus);
   input_.Down({5, 100});
   EXPECT_FALSE(input_.Look().show_focus);
+}
+
+TEST_F(FormInputTest, TheKnobOfAScrollBarFollowsThePointerUntilItIsLetGo) {
+  Control& bar = Add(ControlKind::kScroll, "bar", {0, 0, 120, 20});
+  bar.maximum = 100;
+  input_.Down({60, 10});
+  EXPECT_EQ(events_.log, (Log{"set bar 50"}));
+  input_.Move({85, 90});  // beside the bar, too
+  input_.Move({500, 10});
+  EXPECT_EQ(bar.value, 100);
+  input_.Up({500, 10});
+  input_.Move({20, 10});
+  EXPECT_EQ(bar.value, 100) << "it was let go";
+}
+
+TEST_F(FormInputTest, TheWheelMovesTheBarOfItsDirection) {
+  Add(ControlKind::kScroll, "across", {0, 0, 120, 20}).maximum = 600;
+  Add(ControlKind::kScroll, "down", {130, 0, 150, 150}).maximum = 600;
+  input_.Wheel(0, 2);
+  input_.Wheel(0, -1);
+  input_.Wheel(1, 0);
+  input_.Wheel(-9, 0);
+  EXPECT_EQ(events_.log, (Log{"set down 80", "set down 40", "set across 40", "set across 0"}));
+}
+
+TEST_F(FormInputTest, APictureAnswersOnlyWhereItIsSeen) {
+  Add(ControlKind::kImage, "photo", {-50, -50, 250, 250}).clip = {20, 20, 100, 100};
+  input_.Down({110, 50});
+  EXPECT_TRUE(events_.log.empty());
+  input_.Down({30, 40});
+  EXPECT_EQ(events_.log, (Log{"press photo 80,90"}));
+}
+
+TEST_F(FormInputTest, ADroppedFileGoesToTheTextFieldElseToTheForm) {
+  input_.Drop("/photos/a.jpg");
+  EXPECT_EQ(events_.log, (Log{"drop /photos/a.jpg"}));
+  Add(ControlKind::kText, "field", {0, 0, 100, 20});
+  input_.Drop("/photos/a.jpg");
+  EXPECT_EQ(form_.controls.back().text, "/photos/a.jpg");
 }
 
 }  // namespace

@@ -112,10 +112,10 @@ TEST(ScriptedBoxes, EachBoxTakesOneAnswer) {
 
 TEST(ScriptedBoxes, AChooserWithoutAnAnswerIsCancelled) {
   ScriptedBoxes boxes;
-  EXPECT_EQ(boxes.ChooseFile("A photograph"), "");
+  EXPECT_EQ(boxes.ChooseFile("A photograph", {}), "");
   EXPECT_EQ(boxes.Shown()[0].answer, "cancel");
   boxes.QueueAnswer("/home/me/rex.jpg");
-  EXPECT_EQ(boxes.ChooseFile("A photograph"), "/home/me/rex.jpg");
+  EXPECT_EQ(boxes.ChooseFile("A photograph", {}), "/home/me/rex.jpg");
 }
 
 TEST(ScriptedBoxes, ACancelledInputBoxGivesNothing) {
