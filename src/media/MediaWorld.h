@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -58,6 +59,10 @@ struct MediaWorld {
 
   KeyedList<PictureReference> PictureRegistry{"picture"};
   KeyedList<std::shared_ptr<SoundState>> GlobalSounds{"sound state"};
+
+  // Pictures that objects of the DirectDraw path show now, by path in small letters: objects with
+  // one picture share its surface, and the last of them frees it.
+  std::map<std::string, std::weak_ptr<Surface>> shown_pictures;
 
   // The first surface registered under that name, or nothing.
   SurfaceRef FindGlobalPicture(std::string_view name) const;

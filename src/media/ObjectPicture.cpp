@@ -33,6 +33,11 @@ void ObjectPicture::LoadPicture(const std::string& name) {
     surface_ = world_.FindGlobalPicture(SF_remove(name_, kGlobalPicture));
     return;
   }
+  if (auto shown = world_.shown_pictures.find(FoldCase(name_));
+      shown != world_.shown_pictures.end()) {
+    surface_ = shown->second.lock();
+    if (surface_ != nullptr) return;
+  }
   LoadSurfacePicture(false);
   const DrawStatus status =
       surface_->SetColorKey(kColorKeySourceBlt, world_.TransparentColor, world_.TransparentColor);
@@ -40,6 +45,7 @@ void ObjectPicture::LoadPicture(const std::string& name) {
     throw FatalError("the display refuses the colour key of the picture",
                      {world_.content.DisplayName(FullPath()), 0});
   }
+  world_.shown_pictures[FoldCase(name_)] = surface_;
 }
 
 void ObjectPicture::LoadSurfacePicture(bool restore) {
@@ -48,6 +54,8 @@ void ObjectPicture::LoadSurfacePicture(bool restore) {
     const bool loaded = TryLoadSurface(restore && i == 0);
     DeleteBitmap();
     if (loaded) return;
+    // What replaces a surface that can't be restored has no key: nobody else gets it.
+    world_.shown_pictures.erase(FoldCase(name_));
   }
   FailOnPicture(world_, FullPath());
 }

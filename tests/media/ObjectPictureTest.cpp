@@ -125,6 +125,20 @@ TEST_F(SurfacePicture, ARestoreThatFailsMakesANewSurfaceWithoutAKey) {
             DrawStatus::kOk);
 }
 
+TEST_F(SurfacePicture, ObjectsWithOnePictureShareItsSurfaceUntilTheLastIsReleased) {
+  StartDirectX();
+  picture_.LoadPicture(kArt);
+  ObjectPicture other(world_, 0);
+  other.LoadPicture(FoldCase(kArt));
+  EXPECT_EQ(other.DirectDrawingSurface(), picture_.DirectDrawingSurface());
+  picture_.Release();
+  EXPECT_EQ(other.DrawFrameDirectX(*world_.off_screen_surface, {0, 0, 3, 2, 0, 0}),
+            DrawStatus::kOk);
+  const std::weak_ptr<Surface> shared = other.DirectDrawingSurface();
+  other.Release();
+  EXPECT_TRUE(shared.expired());
+}
+
 TEST_F(SurfacePicture, EachStepOfLoadingMayFailAFewTimes) {
   for (const char* operation : {"LoadImageA", "CreateCompatibleDC", "SelectObject", "CreateSurface",
                                 "GetDC", "BitBlt", "ReleaseDC"}) {
