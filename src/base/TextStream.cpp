@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 
 namespace quendle {
 
@@ -34,6 +35,15 @@ std::string TextComposer::ReadLine(std::string_view expected) {
 }
 
 void TextComposer::WriteLine(std::string_view line) { bytes_.append(line).append("\r\n"); }
+
+std::string ReadFilledLine(TextStream& stream, std::string_view what) {
+  std::string line = stream.ReadLine(what);
+  if (TrimBlanks(line).empty()) {
+    throw FatalError("the line is blank where " + std::string(what) + " should stand",
+                     stream.Place());
+  }
+  return line;
+}
 
 std::int16_t ReadInt16(TextStream& stream, std::string_view what) {
   std::string line = stream.ReadLine(what);

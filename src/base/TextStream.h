@@ -58,6 +58,9 @@ class TextComposer : public TextStream {
   std::string& bytes_;
 };
 
+// The next line, which must hold something; a blank one is fatal.
+std::string ReadFilledLine(TextStream& stream, std::string_view what);
+
 // The next line as a number, rounded; other text is fatal.
 std::int16_t ReadInt16(TextStream& stream, std::string_view what);
 std::int32_t ReadInt32(TextStream& stream, std::string_view what);

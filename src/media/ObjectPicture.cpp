@@ -36,7 +36,8 @@ void ObjectPicture::LoadPicture(const std::string& name) {
   if (auto shown = world_.shown_pictures.find(FoldCase(name_));
       shown != world_.shown_pictures.end()) {
     surface_ = shown->second.lock();
-    if (surface_ != nullptr) return;
+    owns_surface_ = surface_ != nullptr;  // with the others: whoever finds it lost loads it again
+    if (owns_surface_) return;
   }
   LoadSurfacePicture(false);
   const DrawStatus status =

@@ -19,7 +19,7 @@ void GameObject::RunAnimation(const std::string& name) {
     KillAnimationTimer();
     return;
   }
-  if (EqualsNoCase(name, CurrentAnimationName_)) return;
+  if (!name.empty() && EqualsNoCase(name, CurrentAnimationName_)) return;
   KillAnimationTimer();
   if (EqualsNoCase(name, "terminate")) return;
   AnimationState& animation = AnimationNamed(name);

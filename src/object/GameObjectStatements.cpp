@@ -75,7 +75,9 @@ std::string GameObject::SubstituteTokens(const Statement& statement) {
   if (!ReplaceToken(text, "<currentstate>", CurrentState())) {
     ReplaceToken(text, "<currentrootstate>", GetRootState());
   }
-  ReplaceToken(text, "<incrementstate>", IncrementState());
+  if (ContainsNoCase(text, "<incrementstate>")) {
+    ReplaceToken(text, "<incrementstate>", IncrementState());
+  }
   return text;
 }
 

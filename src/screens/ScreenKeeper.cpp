@@ -55,7 +55,7 @@ void ScreenKeeper::InitializeScreenKeeper(const std::string& path,
   auto table = files.OpenTextFileChecked(files.BaseDirectory() + path, OpenMode::kRead, false);
   while (!table->AtEndOfStream()) {
     ScreenInfoEntry entry;
-    entry.ScreenPath = table->ReadLine("the path of a screen");
+    entry.ScreenPath = ReadFilledLine(*table, "the path of a screen");
     auto screen =
         files.OpenTextFileChecked(files.BaseDirectory() + entry.ScreenPath, OpenMode::kRead, false);
     screen->ReadLine("the type word of a screen");

@@ -10,6 +10,7 @@
 #include "logic/GameLogicLayer.h"
 #include "platform/Boxes.h"
 #include "platform/GameWindow.h"
+#include "platform/TimerService.h"
 #include "shell/GameRun.h"
 #include "shell/Quendle_Game_Screen.h"
 #include "shell/TandrelPrompt.h"
@@ -97,9 +98,11 @@ void Application::ReportFault(const FatalError& error) {
     if (fault_.place.file.empty()) fault_.place = depth.FailedPlace();
     fault_.object = depth.FailedObject();
     fault_.message = depth.FailedText();
-    // The run is over: nothing of it may act while the box stands.
     globals_->objects.GameActive = false;
   }
+  // The run is over: nothing of it may act while the box stands, also not a game's own timer, which
+  // doesn't ask for the focus.
+  for (const TimerInfo& timer : ports_.timers.Running()) ports_.timers.KillTimer(timer.id);
   fault_.box_text = ComposeBox(error, fault_);
   if (globals_ != nullptr) {
     if (globals_->EventLog != nullptr) {

@@ -76,7 +76,7 @@ void LoadGlobalObjects(Globals& globals, ContextHandle context) {
   const ContentFiles& content = globals.media.content;
   auto list = OpenList(content, "globalgameobjects.txt");
   while (!list->AtEndOfStream()) {
-    const std::string line = list->ReadLine("the path of a global object");
+    const std::string line = ReadFilledLine(*list, "the path of a global object");
     ObjectRef object = CreateGameObject(globals.objects, content.BaseDirectory() + line, context,
                                         globals.GameLogic);
     std::string name = object->ObjectName();

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "backends/raster/RasterBitmap.h"
+#include "base/Text.h"
 #include "media/PlacedFrame.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/FrameHash.h"
@@ -18,7 +19,7 @@ Json SaveFrame(DriveSession& session, Arguments& arguments) {
   const auto frame = session.ComposeFrame();
   if (frame == nullptr) return Json::object();
   try {
-    WritePng(file, frame->Width(), frame->Height(), frame->Pixels());
+    WritePng(ToUtf8(file), frame->Width(), frame->Height(), frame->Pixels());
   } catch (const PictureError& error) {
     throw CommandRefused(error.what());
   }

@@ -161,6 +161,9 @@ Json DescribePlayers(DriveSession& session) {
   if (const ScreenKeeper* keeper = logic.Keeper()) {
     for (const auto& [name, entry] : keeper->Cache()) players.AddTree(*entry.m_ptrGameObject);
   }
+  for (const ObjectRef& screen : {logic.CurrentScreen(), logic.PreviousScreen()}) {
+    if (screen != nullptr) players.AddTree(*screen);
+  }
   for (const auto& [name, object] : globals.objects.GlobalObjects) players.AddTree(*object);
   return players.Take();
 }

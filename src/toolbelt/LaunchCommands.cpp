@@ -1,5 +1,6 @@
 // The start-up form, the dialogs and the boxes.
 
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "base/Numbers.h"
@@ -25,7 +26,10 @@ struct ControlName {
 ControlName ReadControl(Arguments& arguments) {
   ControlName control{arguments.Word(), 0};
   if (const auto number = ParseNumber(control.name)) {
-    control = {kButtons, static_cast<int>(ToInt16(*number, "number of a button"))};
+    if (*number != std::floor(*number) || *number < 0 || *number > kLargestIndex) {
+      arguments.Refuse("\"" + control.name + "\" is no number of a button");
+    }
+    control = {kButtons, static_cast<int>(*number)};
   } else if (!arguments.Empty()) {
     control.index = static_cast<int>(arguments.Whole(0, kLargestIndex));
   }

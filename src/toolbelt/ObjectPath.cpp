@@ -18,6 +18,12 @@ namespace {
 
 ObjectRef CachedScreen(const GameLogicLayer& logic, const std::string& name) {
   std::vector<std::string> known = {"current", "previous", "tools", "cursors", "global"};
+  // Subgames and tutorials in view never enter the cache.
+  for (const ObjectRef& screen : {logic.CurrentScreen(), logic.PreviousScreen()}) {
+    if (screen == nullptr) continue;
+    if (EqualsNoCase(screen->ObjectName(), name)) return screen;
+    known.push_back(screen->ObjectName());
+  }
   if (const ScreenKeeper* keeper = logic.Keeper()) {
     for (const auto& [key, entry] : keeper->Cache()) {
       if (EqualsNoCase(entry.m_ptrGameObject->ObjectName(), name)) return entry.m_ptrGameObject;

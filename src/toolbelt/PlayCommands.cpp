@@ -1,5 +1,7 @@
 // The game window's events, time, and messages.
 
+#include <cmath>
+#include <cstdint>
 #include <map>
 #include <nlohmann/json.hpp>
 
@@ -24,9 +26,16 @@ Json WindowEvent(DriveSession& session, const std::function<void(HeadlessWindow&
   return Json::object();
 }
 
+// A coordinate of the window, which may have fractions.
+double ReadCoordinate(Arguments& arguments) {
+  const double value = arguments.Number();
+  if (std::abs(value) > INT16_MAX) arguments.Refuse("no window is that large");
+  return value;
+}
+
 Json Move(DriveSession& session, Arguments& arguments) {
-  const double x = arguments.Number();
-  const double y = arguments.Number();
+  const double x = ReadCoordinate(arguments);
+  const double y = ReadCoordinate(arguments);
   arguments.End();
   return WindowEvent(session, [=](HeadlessWindow& window) { window.Move(x, y); });
 }
@@ -41,8 +50,8 @@ MouseButton ReadButton(Arguments& arguments) {
 }
 
 Json Click(DriveSession& session, Arguments& arguments) {
-  const double x = arguments.Number();
-  const double y = arguments.Number();
+  const double x = ReadCoordinate(arguments);
+  const double y = ReadCoordinate(arguments);
   const MouseButton button = ReadButton(arguments);
   arguments.End();
   return WindowEvent(session, [=](HeadlessWindow& window) { window.Click(x, y, button); });

@@ -66,12 +66,12 @@ void AddSettings(Json& state, const Settings& settings) {
   state["difficulty"] = TextJson(settings.DifficultyLevel);
   state["safeMode"] = settings.SafeMode;
   state["personalize"] = settings.PersonalizeOn;
+  state["graphicsMode"] = settings.GraphicsMode;
 }
 
 void AddDrawing(Json& state, const MediaWorld& media) {
   state["directDraw"] = media.UseDirectX;
   state["fullScreen"] = media.FullScreen;
-  state["graphicsMode"] = media.settings.GraphicsMode;
   state["transparentColor"] = media.TransparentColor;
 }
 

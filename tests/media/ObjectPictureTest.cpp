@@ -139,6 +139,18 @@ TEST_F(SurfacePicture, ObjectsWithOnePictureShareItsSurfaceUntilTheLastIsRelease
   EXPECT_TRUE(shared.expired());
 }
 
+TEST_F(SurfacePicture, AnyObjectThatSharesALostSurfaceBringsThePictureBack) {
+  StartDirectX();
+  ObjectPicture other(world_, 0);
+  picture_.LoadPicture(kArt);
+  other.LoadPicture(kArt);
+  picture_.Release();
+  Lose(other);
+  EXPECT_EQ(other.DrawFrameDirectX(*world_.off_screen_surface, {0, 0, 3, 2, 0, 0}),
+            DrawStatus::kOk);
+  EXPECT_EQ(FramePixel(1, 0), kRed);
+}
+
 TEST_F(SurfacePicture, EachStepOfLoadingMayFailAFewTimes) {
   for (const char* operation : {"LoadImageA", "CreateCompatibleDC", "SelectObject", "CreateSurface",
                                 "GetDC", "BitBlt", "ReleaseDC"}) {

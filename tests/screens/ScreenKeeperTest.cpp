@@ -77,6 +77,13 @@ TEST_F(ScreenKeeperTest, PathsOfTheTableKeepTheirTokens) {
   EXPECT_THAT(Fault([&] { ReadTable(); }), HasSubstr("<CurrentDirectory>\\hall.txt"));
 }
 
+TEST_F(ScreenKeeperTest, ABlankLineOfTheTableIsFatalAndNamed) {
+  AddScreen({.type = "hall", .name = "hall"});
+  table += "\r\n";
+  EXPECT_THAT(Fault([&] { ReadTable(); }),
+              HasSubstr(":2: the line is blank where the path of a screen should stand"));
+}
+
 TEST_F(ScreenKeeperTest, AScreenThatWasNeverLoadedExists) {
   Screens({"hall"});
   EXPECT_TRUE(keeper.DoesScreenExist("Hall"));

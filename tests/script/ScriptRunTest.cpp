@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "script/ActionTable.h"
 #include "script/ScriptBench.h"
 
 namespace quendle {
@@ -94,6 +95,55 @@ TEST(ScriptRun, KeepsNothingBetweenRuns) {
     target.statements.clear();
     script.Execute(ScriptVariables(action), target);
     EXPECT_EQ(target.statements[1], std::string(text) == "aover" ? "two" : "one");
+  }
+}
+
+TEST(ScriptRun, AChoiceThatIsRememberedIsTheOneThatTheTextGets) {
+  const std::string text =
+      "begin\nif action = *one\nfirst\nelseif action = two\nsecond\nelse\nother\nendif\nend\n";
+  ScriptState script = Parsed(text);
+  ActionTable table;
+  for (int round = 0; round < 3; ++round) {
+    for (const char* action : {"aone", "two", "TWO", "three", "aone", "one", "four", "two"}) {
+      NotedTarget target;
+      script.Execute(ScriptVariables(table.Get(action)), target);
+      EXPECT_EQ(target.statements, RunOf(text, action)) << action;
+    }
+  }
+}
+
+TEST(ScriptRun, AConditionThatIsFatalIsFatalEachTimeItIsAsked) {
+  ScriptState script = Parsed("begin\nif mood = x\ny\nendif\nend\n");
+  ActionTable table;
+  NotedTarget target;
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_THROW(script.Execute(ScriptVariables(table.Get("a")), target), FatalError);
+  }
+}
+
+// Runs its own script once more, with another text, from inside a statement.
+class ReentrantTarget : public ScriptTarget {
+ public:
+  ReentrantTarget(const ScriptState& script, ActionTable& table) : script_(script), table_(table) {}
+  Lines statements;
+  void Interpret(const Statement& statement, bool, bool&) override {
+    statements.push_back(statement.Text());
+    if (statements.size() == 1) script_.Execute(ScriptVariables(table_.Get("two")), *this);
+  }
+
+ private:
+  const ScriptState& script_;
+  ActionTable& table_;
+};
+
+TEST(ScriptRun, AScriptMayRunInTheMiddleOfItself) {
+  ScriptState script =
+      Parsed("begin\nif action = one\na\nb\nelseif action = two\nc\nendif\nd\nend\n");
+  ActionTable table;
+  for (int round = 0; round < 2; ++round) {
+    ReentrantTarget target(script, table);
+    script.Execute(ScriptVariables(table.Get("one")), target);
+    EXPECT_EQ(target.statements, (Lines{"a", "c", "d", "b", "d"}));
   }
 }
 

@@ -65,8 +65,9 @@ TEST_F(GameRun, AStartReadsAndWritesItsFilesInTheirOrder) {
       At("write", "\\personalize.txt"),
       At("write", "\\GameRunning.txt"),
       At("write", "\\Info\\GlobalReferences\\scripts\\antiseptantPatientIllnessState.txt"),
-      At("write", "\\Info\\GlobalReferences\\scripts\\AntibioticPatientSecondToLastIllnessState"
-                  ".txt"),
+      At("write",
+         "\\Info\\GlobalReferences\\scripts\\AntibioticPatientSecondToLastIllnessState"
+         ".txt"),
       At("create", "\\general.txt"),
       At("read", "\\Info\\globalsoundstates.txt"),
       At("read", "\\Info\\globalscriptstates.txt"),
@@ -120,8 +121,7 @@ TEST_F(GameRun, SharedObjectsAreReleasedAtTheEndAndNotBefore) {
 }
 
 TEST_F(GameRun, TheIllnessScriptsFollowTheDifficulty) {
-  const std::string active =
-      "\\Info\\GlobalReferences\\scripts\\GrapesPatientIllnessState.txt";
+  const std::string active = "\\Info\\GlobalReferences\\scripts\\GrapesPatientIllnessState.txt";
   for (const auto& [level, text] : {std::pair{"Easy", "begin\nchange safe\nend\n"},
                                     std::pair{"hard", "begin\nchange normal\nend\n"},
                                     std::pair{"odd", "begin\nchange normal\nend\n"}}) {

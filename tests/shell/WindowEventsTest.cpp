@@ -94,8 +94,7 @@ TEST_F(WindowEvents, EveryMessageIsPassedOnToTheWindowsOwnProcedure) {
   std::vector<std::string> seen;
   backend.window.ReplaceWindowProc(
       [&](int, unsigned message, std::intptr_t w, std::intptr_t l) -> std::intptr_t {
-        seen.push_back(std::to_string(message) + " " + std::to_string(w) + " " +
-                       std::to_string(l));
+        seen.push_back(std::to_string(message) + " " + std::to_string(w) + " " + std::to_string(l));
         return 0;
       });
   Play();

@@ -47,6 +47,8 @@ TEST(DriveProtocol, WrongArgumentsAreRefusedWithTheUsage) {
   EXPECT_THAT(bench.Refused("click 1 2 paw"), HasSubstr("\"paw\" is no button"));
   EXPECT_THAT(bench.Refused("tick -1"), HasSubstr("a whole number"));
   EXPECT_THAT(bench.Refused("tick 1.5"), HasSubstr("a whole number"));
+  EXPECT_THAT(bench.Refused("click 40000 1"), HasSubstr("no window is that large"));
+  EXPECT_THAT(bench.Refused("press 1.5"), HasSubstr("no number of a button"));
   EXPECT_THAT(bench.Refused("focus maybe"), HasSubstr("neither on nor off"));
   EXPECT_THAT(bench.Refused("send"), HasSubstr("a text is missing"));
 }
