@@ -224,6 +224,13 @@ TEST_F(RunAnimation, AnUnknownNameIsFatal) {
             "\"still\"?");
 }
 
+TEST_F(RunAnimation, AnEmptyNameIsFatalAlsoBeforeAnyAnimationRan) {
+  Door().State("go", "nothing", "");
+  TestedObject door = bench_.LoadOn("door");
+  EXPECT_NE(FatalOf([&] { door->ProcessState("go"); }).find("has no animation \"\""),
+            std::string::npos);
+}
+
 TEST_F(RunAnimation, AFrameThatIsNotThereIsFatalWhenItIsShown) {
   Door().Animation("walk", 100, "loop", {"a bb"}).State("go", "nothing", "walk");
   TestedObject door = Go();
