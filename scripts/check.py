@@ -124,8 +124,8 @@ NEED_BUILD = {"tidy", "tests", "content", "sanitizers"}
 
 
 def knows_command(word):
-    helped = subprocess.run([BIN / "quendle", word, "--help"], capture_output=True, check=False)
-    return helped.returncode == 0
+    helped = subprocess.run([BIN / "quendle", "--help"], capture_output=True, text=True, check=False)
+    return any(line.split()[:1] == [word] for line in helped.stdout.splitlines())
 
 
 def run_tests(preset):
