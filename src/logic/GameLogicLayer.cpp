@@ -121,6 +121,7 @@ void GameLogicLayer::Release() {
   KillDrawTimer();
   DropBackBuffer();
   m_ptrMusic.reset();
+  walk_ = nullptr;
 }
 
 void GameLogicLayer::KillDrawTimer() {
