@@ -80,7 +80,7 @@ void DesktopWindow::Open() {
   SDL_SetWindowMinimumSize(window_.get(), kSmallestWidth, kSmallestHeight);
   SetIcon(window_.get());
   renderer_ = std::make_unique<FrameRenderer>(window_.get());
-  renderer_->Upload(screen_.Frame());
+  Upload();
   Draw();
   SDL_RaiseWindow(window_.get());
 }
@@ -134,15 +134,21 @@ void DesktopWindow::SetOverlay(FormInput* input) {
   FollowPointer({-1, -1});
 }
 
-// A frame is shown at once, in the middle of the tick that composed it.
+// A frame is shown at once, in the middle of the tick that composed it; one with the same pixels
+// as the last costs nothing.
 void DesktopWindow::OnPresented() {
-  frame_is_new_ = true;
-  if (renderer_ != nullptr) Draw();
+  if (screen_.Bitmap()->Version() != uploaded_version_) frame_is_new_ = true;
+  if (renderer_ != nullptr && frame_is_new_) Draw();
+}
+
+void DesktopWindow::Upload() {
+  renderer_->Upload(screen_.Frame());
+  uploaded_version_ = screen_.Bitmap()->Version();
+  frame_is_new_ = false;
 }
 
 void DesktopWindow::Draw() {
-  if (frame_is_new_) renderer_->Upload(screen_.Frame());
-  frame_is_new_ = false;
+  if (frame_is_new_) Upload();
   if (overlay_dirty_) {
     overlay_dirty_ = false;
     if (overlay_ == nullptr) {

@@ -67,6 +67,7 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
 
   void Open();
   void OnPresented();
+  void Upload();
   void Draw();
   void ToggleFullScreen();
   void SendToGame(const SDL_Event& event);
@@ -94,6 +95,7 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   bool overlay_dirty_ = false;
   bool stale_ = false;
   bool frame_is_new_ = false;
+  std::uint64_t uploaded_version_ = 0;  // of the frame's pixels
   bool active_ = true;  // the game takes itself for active until it is told otherwise
   bool pointer_wanted_ = true;
   bool pointer_on_frame_ = true;
