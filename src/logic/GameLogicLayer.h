@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Words.h"
@@ -14,6 +15,7 @@
 namespace quendle {
 
 class ActionText;
+class InputRecorder;
 class SoundState;
 struct ScreenWalk;
 
@@ -71,6 +73,8 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   // The focus is lost or found: the music pauses, and goes on where it was.
   void PauseSound();
   void PlaySound();
+  // What the player does is told to this recorder until Release. What content sends itself is not.
+  void SetTester(std::weak_ptr<InputRecorder> tester) { m_ptrTester = std::move(tester); }
   // Keeps what play has changed in "autosave.txt". False when none was written; a failure is
   // logged.
   bool Autosave();
@@ -124,6 +128,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void EndExitOnDemand(Call& call);
   void ExitGame(Call& call);
 
+  void TellTester(const char* action, std::int16_t x, std::int16_t y);
   ObjectRef RequireScreen(const std::string& name);
   void SendToCurrent(const std::string& message);
   void SendToTools(const std::string& message);
@@ -169,6 +174,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   bool m_bDialogActive = false;
   bool m_bSkipNextClick = false;
   HelpMemory help_;
+  std::weak_ptr<InputRecorder> m_ptrTester;
   bool music_paused_ = false;  // by a loss of focus, while it played
   double music_position_ = 0;  // seconds, where it was paused
   std::shared_ptr<ScreenWalk> walk_;

@@ -103,6 +103,7 @@ std::optional<WindowProc> DesktopWindow::ReplaceWindowProc(WindowProc proc) {
 }
 
 void DesktopWindow::SendMessageA(unsigned message, std::intptr_t w, std::intptr_t l) {
+  if (message == kActivateAppMessage) active_ = w != 0;
   // From a copy: the procedure may put the one before it back.
   WindowProc proc = proc_;
   if (proc) proc(kHandle, message, w, l);
@@ -186,6 +187,7 @@ void DesktopWindow::SendToGame(const SDL_Event& event) {
     Point at = FramePosition(event.motion.x, event.motion.y);
     events_->MouseMove(ButtonBits(event.motion.state), ShiftBits(), at.x, at.y);
   } else if (event.type == SDL_MOUSEBUTTONDOWN) {
+    Activate(true);  // the game may have paused itself while its window kept the focus
     Point at = FramePosition(event.button.x, event.button.y);
     int button = ButtonNumber(event.button.button);
     if (button != 0) events_->MouseDown(button, ShiftBits(), at.x, at.y);
@@ -243,7 +245,6 @@ void DesktopWindow::ToggleFullScreen() {
 
 void DesktopWindow::Activate(bool active) {
   if (active == active_) return;
-  active_ = active;
   SendMessageA(kActivateAppMessage, active ? 1 : 0, 0);
 }
 
