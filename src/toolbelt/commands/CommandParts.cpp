@@ -33,6 +33,13 @@ void AddEditionAndSeed(CLI::App& command, DriveOptions& options) {
       ->capture_default_str();
 }
 
+void AddDrawingPath(CLI::App& command, std::string& path) {
+  command.add_option("--path", path, "directdraw, or window: the first drawing path fails")
+      ->check(CLI::IsMember({"directdraw", kWindowPath}))
+      ->option_text("PATH")
+      ->capture_default_str();
+}
+
 std::string Footer(const std::string& text, const std::vector<std::string>& examples,
                    std::vector<ExitCode> exits) {
   for (const ExitCode& common : {ExitCode{1, "something failed; the reason is on standard error"},

@@ -21,6 +21,10 @@ void AddDifficulty(CLI::App& command, std::string& difficulty);
 // How the game is started: --edition and --seed.
 void AddEditionAndSeed(CLI::App& command, DriveOptions& options);
 
+// --path: which drawing path is used.
+inline constexpr const char* kWindowPath = "window";
+void AddDrawingPath(CLI::App& command, std::string& path);
+
 // One way a command can end.
 struct ExitCode {
   int code;
