@@ -11,6 +11,7 @@
 #include "platform/Ports.h"
 #include "shell/GameStarter.h"
 #include "shell/Globals.h"
+#include "shell/SpokenCaptions.h"
 
 namespace quendle {
 
@@ -59,6 +60,8 @@ class Application : private GameStarter {
   // Told to the game when it starts; may be null.
   void SetTracer(Tracer* tracer);
   void SetBlitWatcher(BlitWatcher* watcher);
+  // What is said; nothing before Play.
+  CaptionSource& Captions() { return captions_; }
 
  private:
   void OpenGameWindow() override;
@@ -71,6 +74,7 @@ class Application : private GameStarter {
   ContentFiles content_;
   std::unique_ptr<TandrelPrompt> prompt_;
   std::unique_ptr<Globals> globals_;
+  SpokenCaptions captions_{globals_};
   std::unique_ptr<Quendle_Game_Screen> screen_;
   Tracer* tracer_ = nullptr;
   BlitWatcher* blit_watcher_ = nullptr;
