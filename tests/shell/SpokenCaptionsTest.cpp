@@ -22,15 +22,14 @@ struct CaptionBench : testing::Test, GameBench {
                                  {.name = "hurry", .sound = "hurry"},
                                  {.name = "hum", .sound = "hum"}},
                       .sounds = {"hurry", "hum"}});
-    PutObject(files,
-              {.type = "button",
-               .name = "start",
-               .width = 50,
-               .height = 50,
-               .states = {{.name = "default", .sound = "welcome"},
-                          {.name = "other", .sound = "meow"},
-                          {.name = "lost", .sound = "hurry"}},
-               .sounds = {"welcome", "meow", "hurry"}});
+    PutObject(files, {.type = "button",
+                      .name = "start",
+                      .width = 50,
+                      .height = 50,
+                      .states = {{.name = "default", .sound = "welcome"},
+                                 {.name = "other", .sound = "meow"},
+                                 {.name = "lost", .sound = "hurry"}},
+                      .sounds = {"welcome", "meow", "hurry"}});
   }
 
   CaptionSource& Source() { return application.Captions(); }
