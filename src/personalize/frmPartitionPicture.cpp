@@ -65,14 +65,14 @@ frmPartitionPicture::~frmPartitionPicture() = default;
 
 void frmPartitionPicture::LoadImage(const std::string& path) {
   if (path.empty()) {
-    Tell("Please choose a photograph first: press Browse.");
     BackToSelection();
+    Tell("Please choose a photograph first: press Browse.");
     return;
   }
   LoadedPicture loaded = personalize_.loader.LoadPicture(path);
   if (loaded.picture == nullptr) {
-    Tell(loaded.problem);
     BackToSelection();
+    Tell(loaded.problem);
     return;
   }
   picture_ = ReachablePicture(std::move(loaded.picture));

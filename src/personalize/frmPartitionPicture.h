@@ -21,7 +21,7 @@ class frmPartitionPicture : public WizardForm {
   ~frmPartitionPicture() override;
 
   // Loads a photograph and fits the scroll bars. Without a path, or when the file can't be used, it
-  // tells so and goes back to stage 1.
+  // goes back to stage 1 and tells so there.
   void LoadImage(const std::string& path);
   // Removes the whole outline.
   void ResetLines();

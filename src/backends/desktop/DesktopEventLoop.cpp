@@ -78,7 +78,7 @@ void DesktopEventLoop::Run(const std::function<bool()>& done) {
   while (!done()) {
     if (HandleWaiting(done)) return;
     if (timers_.FireNext(clock_.Monotonic(), fired)) continue;
-    SettleAll();
+    Settle();
     SDL_WaitEventTimeout(nullptr, SleepMilliseconds());
   }
 }
@@ -112,8 +112,15 @@ void DesktopEventLoop::Dispatch(const SDL_Event& event) {
   }
 }
 
-void DesktopEventLoop::SettleAll() {
+void DesktopEventLoop::Settle() {
   for (const auto& target : Targets()) target->Settle();
+}
+
+std::uint32_t DesktopEventLoop::WindowInUse() {
+  for (const auto& target : Targets()) {
+    if (TakesInput(*target) && target->WindowId() != 0) return target->WindowId();
+  }
+  return 0;
 }
 
 int DesktopEventLoop::SleepMilliseconds() {
