@@ -50,7 +50,7 @@ frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
            {130, 50, 762, 74});
   AddLabel(form_, "lblHelp",
            "Click all the way round: the outline closes by itself. The bars move the photograph.",
-           {146, 74, 762, 98});
+           {130, 74, 762, 98});
   AddPicturePair(form_, 5, "undo", "Undo", {222, 520, 382, 572});
   AddPicturePair(form_, 13, "reset", "Start over", {398, 520, 558, 572});
   AddScroll(form_, "HScroll1", {}).visible = false;

@@ -40,7 +40,7 @@ Rect PlaceInMiddle(Size picture, const Rect& room) {
 }  // namespace
 
 frmSelectPicture::frmSelectPicture(const PersonalizeServices& services)
-    : WizardForm(services, "frmSelectPicture", {600, 450}, kLastPicture) {
+    : WizardForm(services, "frmSelectPicture", {600, 462}, kLastPicture) {
   form_.caption = WizardName();
   AddLabel(form_, "Label1", "Stage 1 of 4", {0, 0, 0, 28}).font_size = kTitleFontSize;
   AddLabel(form_, "Label4", "Select a Picture", {20, 52, 290, 82}).font_size = kTitleFontSize;
@@ -51,9 +51,9 @@ frmSelectPicture::frmSelectPicture(const PersonalizeServices& services)
            {20, 92, 284, 280});
   AddPicturePair(form_, 5, "browse", "Browse...", {20, 290, 284, 350});
   AddFrame(form_, "Frame1", "", {296, 78, 586, 354});
-  AddLabel(form_, "lblEmpty", "Your photograph is shown here.", {320, 200, 570, 230});
+  AddLabel(form_, "lblEmpty", "Your photograph is shown here.", {328, 206, 576, 236});
   AddImage(form_, "Image1", 0, kPreview).visible = false;
-  AddLink(form_, kRemoveLink, "Remove my photograph from the game", {306, 357, 586, 379});
+  AddLink(form_, kRemoveLink, "Remove my photograph from the game", {306, 358, 586, 382});
   Finish();
 }
 

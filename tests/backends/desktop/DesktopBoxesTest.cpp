@@ -22,9 +22,10 @@ class DroppedFiles : public FormEvents {
   void PointerOverForm() override {}
   void PointerOver(Control&) override {}
   void Press(Control&, Point) override {}
-  void Key(FormKey) override {}
+  void Key(FormKey) override { ++keys; }
   void QueryClose() override {}
   std::vector<std::string> paths;
+  int keys = 0;
 };
 
 // Runs on the library's driver without a display, with the fonts of the system.
@@ -61,10 +62,11 @@ class DesktopBoxesTest : public ::testing::Test {
     });
     boxes_.MessageBox("Title", "Text");
   }
-  void Key(SDL_Keycode code) {
+  void Key(SDL_Keycode code) { KeyTo(loop_.WindowInUse(), code); }
+  static void KeyTo(std::uint32_t window, SDL_Keycode code) {
     SDL_Event event{};
     event.type = SDL_KEYDOWN;
-    event.key.windowID = loop_.WindowInUse();
+    event.key.windowID = window;
     event.key.keysym.sym = code;
     SDL_PushEvent(&event);
   }
@@ -125,6 +127,22 @@ TEST_F(DesktopBoxesTest, WhileABoxStandsItsWindowIsInUseAndThenTheOneBefore) {
   EXPECT_NE(meanwhile, 0u);
   EXPECT_NE(meanwhile, host_window_);
   EXPECT_EQ(loop_.WindowInUse(), host_window_);
+}
+
+// A press on the form behind may give the keyboard to its window.
+TEST_F(DesktopBoxesTest, KeysAreTheBoxesWhicheverWindowHasTheKeyboard) {
+  bool stood = false;
+  int id = loop_.Timers().SetTimer(Milliseconds(10), "key", [&](int) {
+    stood = true;
+    KeyTo(host_window_, SDLK_RETURN);
+  });
+  boxes_.MessageBox("Title", "Text");
+  loop_.Timers().KillTimer(id);
+  EXPECT_TRUE(stood);
+  EXPECT_EQ(events_.keys, 0);
+  Key(SDLK_RETURN);
+  Pump();
+  EXPECT_EQ(events_.keys, 1) << "without a box they are the form's";
 }
 
 TEST_F(DesktopBoxesTest, AFileDroppedOnAFormReachesIt) {
