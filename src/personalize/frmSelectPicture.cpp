@@ -14,6 +14,8 @@ namespace {
 
 constexpr int kLastPicture = 12;
 constexpr Rect kPreview{306, 98, 576, 346};
+// Twice the room of the preview: enough for a display that shows the form enlarged.
+constexpr PictureLimit kPreviewLimit{540, 540};
 constexpr const char* kRemoveLink = "lblRemove";
 
 const std::vector<FileFilter>& PictureFilters() {
@@ -89,7 +91,7 @@ void frmSelectPicture::Browse() {
 
 // A file that is refused leaves the photograph before it in place.
 void frmSelectPicture::TakePicture(const std::string& path) {
-  LoadedPicture loaded = personalize_.loader.LoadPicture(path);
+  LoadedPicture loaded = personalize_.loader.LoadPicture(path, kPreviewLimit);
   if (loaded.picture == nullptr) {
     Tell(loaded.problem);
     return;

@@ -13,7 +13,7 @@ namespace {
 
 class NoPictures : public PictureLoader {
  public:
-  LoadedPicture LoadPicture(const std::string&) override { return {nullptr, "none"}; }
+  LoadedPicture LoadPicture(const std::string&, PictureLimit) override { return {nullptr, "none"}; }
 };
 
 class DroppedFiles : public FormEvents {
