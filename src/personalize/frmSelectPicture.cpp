@@ -62,8 +62,13 @@ frmSelectPicture::frmSelectPicture(const PersonalizeServices& services)
 frmSelectPicture::~frmSelectPicture() = default;
 
 void frmSelectPicture::Open() {
-  form_.Find(kRemoveLink)->visible = DefaultPersonExists(personalize_);
+  OfferRemoval();
   Show();
+}
+
+// A family that has put no photograph in is not asked to take it out.
+void frmSelectPicture::OfferRemoval() {
+  form_.Find(kRemoveLink)->visible = PhotographCanBeRemoved(personalize_);
 }
 
 void frmSelectPicture::Press(Control& control, Point at) {
@@ -112,6 +117,7 @@ void frmSelectPicture::ShowPreview(SharedPicture picture) {
 void frmSelectPicture::RemovePhotograph() {
   if (!Ask("Remove your photograph from the game? The drawn child takes its place again.")) return;
   RestoreDefaultPerson(personalize_);
+  OfferRemoval();
   path_.clear();
   ShowPreview(nullptr);
   Tell("Your photograph is no longer in the game.");
