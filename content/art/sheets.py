@@ -229,7 +229,9 @@ def add_states(sheet, name, piece):
 
 def intro_buttons():
     sheet = Sheet(184, 184, 3)
-    add_states(sheet, "start", cog_button(92, 92, 80, GREEN, triangle(92, 88, 1.5)))
+    start = cog_button(92, 92, 80, GREEN, triangle(92, 88, 1.5))
+    add_states(sheet, "start", start)
+    sheet.add("start-hop", move(start, 0, -4, size=1.03, about=(92, 92)))
     return sheet
 
 
@@ -301,10 +303,11 @@ def next_sign():
 
 
 def medicalbook():
-    sheet = Sheet(96, 92, 2)
+    sheet = Sheet(96, 92, 3)
     lying = move(book(48, 46, 1.05), turn=-8, about=(48, 46))
     sheet.add("book", lying)
     sheet.add("book-glow", glowing(lying))
+    sheet.add("book-sparkle", lying + sparkle(80, 14, 12, YELLOW) + sparkle(14, 74, 10, WHITE))
     return sheet
 
 
@@ -409,7 +412,17 @@ def dog_sheet():
     for i, (hop, tail) in enumerate(((0, 1), (14, 0), (22, 1), (14, 0), (0, 1))):
         hearts = heart(30, 60 - i * 7, 10 + i) + heart(222, 50 - i * 5, 8 + i, PINK) if i else ""
         sheet.add(f"jump{i + 1}", dog("joy", "bandaid", tail, hop=hop) + hearts)
+    for name, paw in (("sad", "cut"), ("hope", "clean")):
+        sheet.add(f"{name}-pet1", dog("hopeblink", paw, 0) + petted(1))
+        sheet.add(f"{name}-pet2", dog("hopeblink", paw, 1, breath=2) + petted(2))
     return sheet
+
+
+def petted(beat):
+    """The hearts that fly while a patient is petted; they rise from beat 1 to 2."""
+    if beat == 1:
+        return heart(26, 70, 12)
+    return heart(28, 46, 14) + heart(226, 60, 10, PINK)
 
 
 def patient_sheet(draw, looks, well):
@@ -438,6 +451,9 @@ def patient_sheet(draw, looks, well):
     for i, hop in enumerate((14, 22)):
         hearts = heart(30, 60 - i * 14, 10 + i) + heart(222, 50 - i * 10, 8 + i, PINK) + sparkle(196 - i * 10, 16 + i * 6, 9, YELLOW)
         add(f"jump{i + 1}", draw("joy", well, pose=i, hop=hop) + hearts)
+    for number, look in enumerate(looks):
+        for beat in (1, 2):
+            add(f"step{number}-pet{beat}", draw("hopeblink", look, pose=beat - 1, breath=(beat - 1) * 3) + petted(beat))
     return sheet
 
 
