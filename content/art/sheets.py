@@ -116,17 +116,50 @@ def hall():
 
 def hall2():
     out = wall(light(YELLOW, 0.45), "hearts")
-    out += bunting(150, 590, 34, (TEAL, PINK, YELLOW, CORAL, GREEN))
+    out += bunting(136, 456, 30, (TEAL, PINK, YELLOW, CORAL, GREEN))
     out += poster(50, 84, 74, 86, cross_sign(87, 130, 20), WHITE)
-    out += window(474, 96, 104, 112) + curtains(474, 96, 104, 112, CORAL)
-    out += sunbeam(((474, 228), (578, 228), (566, 458), (400, 458)))
+    out += window(474, 84, 104, 104) + curtains(474, 84, 104, 104, CORAL)
     out += clock(716, 76, 40)
     out += rug(300, 484, 250, 17, TEAL, CREAM)
-    for x in (84, 229, 374):
+    for x in (84, 229, 374, 519):
         out += shadow(x, 461, 66, 5)
-    out += shadow(526, 474, 74, 8) + bench(458, 392, 134, 80, GREEN) + ball(494, 376, 17) + plant(562, 392, 0.5)
     out += shadow(700, 482, 66, 8)
     return screen(out)
+
+
+def elevator():
+    """The cabin: the board with the two buttons at the left, its double door in the middle."""
+    out = flat("M0,0H800V600H0Z", light(LAVENDER, 0.25))
+    for x in range(0, 840, 100):
+        out += flat(box(x + 6, 40, 88, 400, 10), light(LAVENDER, 0.5)) + stroke(f"M{x + 18},58V420", WHITE, 4)
+    out += flat("M0,0H800V40H0Z", shade(LAVENDER, 0.2)) + stroke("M0,40H800", OUTLINE, 4)
+    for x in (170, 430, 690):
+        out += sunbeam(((x - 50, 40), (x + 50, 40), (x + 120, 420), (x - 120, 420))) + solid(box(x - 56, 28, 112, 18, 8), YELLOW, 0, 3)
+    out += flat("M0,440H800V600H0Z", CORAL) + stroke("M0,440H800", OUTLINE, 4)
+    for row in range(4):
+        for col in range(11):
+            if (row + col) % 2:
+                out += flat(box(col * 76 - 20, 444 + row * 40, 76, 40, 0), light(CORAL, 0.3))
+    out += solid(box(282, 78, 292, 364, 14), CREAM, 8)
+    out += solid(box(306, 136, 244, 306, 4), shade(LAVENDER, 0.4), 0)
+    for x in (306, 428):
+        out += solid(box(x, 136, 122, 306, 4), shade(LAVENDER, 0.12), 6) + stroke(f"M{x + 24},160V416", light(LAVENDER, 0.7), 6)
+    out += solid(box(352, 90, 152, 36, 16), OUTLINE, 0, 0)
+    out += arrow(388, 108, 0.62, turn=-90, fill=YELLOW) + arrow(468, 108, 0.62, turn=90, fill=YELLOW)
+    out += stroke("M250,404H274M582,404H780", OUTLINE, 15) + stroke("M250,404H274M582,404H780", WOOD, 8)
+    out += solid(box(34, 66, 216, 414, 26), WOOD, 9) + stroke(box(46, 78, 192, 390, 18), shade(WOOD, 0.3), 4)
+    return screen(out + shadow(700, 482, 66, 8))
+
+
+def lift_button(floor):
+    """A round button with the patients of its floor, and as many dots as the floor has for a number."""
+    sheet = Sheet(176, 176, 2)
+    faces = dog_face(88, 74, 1.15) if floor == 1 else cat_face(58, 78, 0.95) + rabbit_face(116, 80, 0.95)
+    dots = "".join(solid(ellipse(88 + (i - (floor - 1) / 2) * 26, 128, 9), WHITE, 0, 3) for i in range(floor))
+    piece = cog_button(88, 88, 80, (YELLOW, GREEN)[floor - 1], faces + dots)
+    sheet.add("rest", piece)
+    sheet.add("glow", glowing(piece))
+    return sheet
 
 
 def catroom():
@@ -274,6 +307,13 @@ def door(colour, sign):
     return sheet
 
 
+def lift_door():
+    sheet = Sheet(132, 234, 2)
+    sheet.add("shut", lift_leaf(LAVENDER))
+    sheet.add("open", glowing(lift_leaf(LAVENDER, True), 0))
+    return sheet
+
+
 # The colour and the sign of each door. An object loads its whole picture, so each has its own.
 DOORS = {
     "homedoor": lambda: door(CORAL, house(66, 84, 1.0)),
@@ -283,6 +323,7 @@ DOORS = {
     "hall2door": lambda: door(YELLOW, hall_sign(66, 84)),
     "catdoor": lambda: door(GREEN, cat_face(66, 86, 0.95)),
     "rabbitdoor": lambda: door(PINK, rabbit_face(66, 90, 0.85)),
+    "liftdoor": lambda: lift_door(),
 }
 
 
@@ -579,6 +620,9 @@ SHEETS = {
     "Info/Floor1/rabbitroom/rabbit": rabbit_sheet,
     "Info/Floor1/emptyroom1/room": emptyroom,
     "Info/Floor1/emptyroom1/basket": tool_basket,
+    "Info/Elevator/room": elevator,
+    "Info/Elevator/lift1button": lambda: lift_button(1),
+    "Info/Elevator/lift2button": lambda: lift_button(2),
     "Info/Book/book": bookscreen,
     "Info/Book/back": book_back,
     "Info/Doctor/doctor": doctor_sheet,

@@ -157,6 +157,11 @@ def splat():
     return mix((0, tone(0.16, (260, 110), 0.9, SOFT, 0.003, 0.06)), (0.01, noise(0.16, 0.8, 0.6, 0.05, 8)), (0.09, bell(0.25, 1319, 0.4, 0.09)))
 
 
+def lift():
+    """The elevator hums and rings."""
+    return mix((0, tone(0.45, (90, 130, 120), 0.5, REED, 0.06)), (0.42, bell(0.36, 1319, 0.9)), (0.42, bell(0.36, 1047, 0.4)))
+
+
 def oops():
     """Something went wrong, and it isn't bad: two notes going down."""
     return mix((0, tone(0.2, (523, 494), 0.8, SOFT, 0.01, 0.14)), (0.18, tone(0.34, (392, 330), 0.8, SOFT, 0.01, 0.18, (7, 0.02))))
@@ -164,7 +169,7 @@ def oops():
 
 EFFECTS = {f.__name__: f for f in (
     click, door, take, back, page, cure, dogow, dogjoy, dogpet, catow, catjoy, catpet, rabbitow, rabbitjoy, rabbitpet,
-    pop, spray, boing, splat, oops,
+    pop, spray, boing, splat, lift, oops,
 )}  # fmt: skip
 
 

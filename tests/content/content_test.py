@@ -223,7 +223,7 @@ class ClinicTest(unittest.TestCase):
             if (w, h) == ("800", "600"):
                 screens += 1
                 self.assertFalse(Bitmap(MADE / f"{picture}.bmp").holds(KEY), picture)
-        self.assertEqual(screens, 12)
+        self.assertEqual(screens, 13)
 
     def test_every_edition_finds_its_treatments_in_both_variants(self):
         folder = SOURCE / "Info/GlobalReferences/scripts"
@@ -318,7 +318,7 @@ class ClinicTest(unittest.TestCase):
             for state in thing.states:
                 self.assertNotIn("_", state, str(thing.path))
         for name in screens - {"tools", "cursors"}:
-            self.assertRegex(name, "hall|room|screen", "such a screen is taken for a patient's room without a tool bar")
+            self.assertRegex(name, "hall|room|screen|elevator", "such a screen is taken for a patient's room without a tool bar")
 
     def test_every_sentence_is_short(self):
         for name, sentence in captions().items():
