@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
+#include "object/ForwardingObject.h"
 #include "object/GameObject.h"
 #include "subgames/PlayAreaObject.h"
 #include "toolbelt/DriveCommand.h"
@@ -94,6 +95,13 @@ Json Sounds(DriveSession& session, Arguments& arguments) {
   return {{"players", DescribePlayers(session)}};
 }
 
+Json SpokenCaption(DriveSession& session, Arguments& arguments) {
+  arguments.End();
+  session.Logic();  // refuses without a game
+  const Caption caption = session.Game().Captions().SpokenNow();
+  return {{"caption", TextJson(caption.text)}, {"bottom", caption.bottom}};
+}
+
 Json SwitchTrace(DriveSession& session, Arguments& arguments) {
   const std::string word = arguments.Word();
   arguments.End();
@@ -152,6 +160,7 @@ const CommandTable& SeeingCommands() {
       {"memento NAME", "what is kept of a screen", Memento},
       {"timers", "the running timers", Timers},
       {"sounds", "the players that hold a file", Sounds},
+      {"caption", "the sentence that is said now, and the height it stands above", SpokenCaption},
       {"trace on|off", "watch messages, scripts, states, sounds, timers, screens, the log",
        SwitchTrace},
       {"events", "what was traced since last asked", Events},
