@@ -64,6 +64,18 @@ TEST(ToolBelt, EveryCommandTellsAnExampleAndItsExitCodes) {
   EXPECT_GE(commands, 5);
 }
 
+TEST(ToolBelt, AManPageIsAskedForByACommandsName) {
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(RunToolBelt({"--man"}), 0);
+  EXPECT_EQ(RunToolBelt({"--man", "render"}), 0);
+  const std::string pages = testing::internal::GetCapturedStdout();
+  EXPECT_THAT(pages, testing::HasSubstr(".TH QUENDLE 1\n"));
+  EXPECT_THAT(pages, testing::HasSubstr(".TH QUENDLE-RENDER 1\n"));
+  EXPECT_THAT(pages, testing::HasSubstr("\\fB\\-\\-state\\fR \\fIOBJECT=STATE\\fR\n"));
+  EXPECT_EQ(RunToolBelt({"--man", "dance"}), 2);
+  EXPECT_EQ(RunToolBelt({"--man", "render", "dance"}), 2);
+}
+
 TEST(ToolBelt, TheHelpFitsATerminal) {
   std::istringstream help(HelpOf({}));
   for (std::string line; std::getline(help, line);) EXPECT_LE(line.size(), 80u) << line;
