@@ -13,6 +13,7 @@
 #include "toolbelt/PictureTool.h"
 #include "toolbelt/Render.h"
 #include "toolbelt/SmallestContent.h"
+#include "toolbelt/verify/VerifyCommand.h"
 
 namespace quendle {
 namespace {
@@ -118,6 +119,7 @@ int RunToolBelt(std::vector<std::string> words) {
   AddRender(belt, exit_code);
   AddNew(belt);
   AddBench(belt);
+  AddVerify(belt, exit_code);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);

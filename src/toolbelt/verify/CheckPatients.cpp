@@ -1,0 +1,140 @@
+#include <algorithm>
+
+#include "base/Text.h"
+#include "object/VerifyRules.h"
+#include "toolbelt/verify/Checks.h"
+
+namespace quendle {
+namespace {
+
+bool IsPatient(const ModelObject& object) {
+  return object.IsType("patient") && !object.IsNamed("doctor");
+}
+
+// The tests of the engine's own check, in their order, each only if the one before passed.
+void CheckTwin(const CheckContext& context, const ModelObject& patient, const ObjState& state) {
+  if (!NeedsOwwwTwin(state.Name())) return;
+  const std::string twin_name = state.Name() + "-owww";
+  const ObjState* twin = patient.State(twin_name);
+  const auto tell = [&](const ObjState& at, const std::string& text) {
+    context.Tell(Check::kOwwwTwin, patient, at.Place(), text);
+  };
+  if (twin == nullptr) {
+    tell(state, "Did not find a corresponding owww state for \"" + state.Name() + "\"" +
+                    DidYouMean(twin_name, patient.StateNames()));
+    return;
+  }
+  const ModelAnimation* animation = patient.Animation(twin->AnimationState());
+  if (animation != nullptr && animation->Loops()) {
+    tell(*twin, "the animation of \"" + twin_name + "\" loops, so the state never ends by itself");
+  } else if (!SaysNothing(twin->ScriptState())) {
+    tell(*twin, "\"" + twin_name + "\" has the script \"" + twin->ScriptState() +
+                    "\" and must not answer events");
+  }
+}
+
+// A patient under the pointer is hurt in the state below, and one that answers no event can't be
+// hurt at all. The engine's own check asks for their twins as well.
+bool CanBeHurt(const ObjState& state) {
+  return !ContainsNoCase(state.Name(), "highlight") && !SaysNothing(state.ScriptState());
+}
+
+void CheckDoctor(const CheckContext& context, const ModelObject& doctor) {
+  const FilePlace place =
+      doctor.states.empty() ? doctor.name_place : FilePlace{doctor.states.front().Place().file, 0};
+  if (!doctor.states_known) return;
+  for (const ModelObjectRef& tool : context.model.globals) {
+    if (!tool->IsType("tool")) continue;
+    const std::string state = StripToolWords(tool->name) + "info";
+    if (doctor.State(state) != nullptr) continue;
+    context.Tell(Check::kInfoState, doctor, place,
+                 "Could Not Verify the Doctor Info State: \"" + state + "\" of the tool \"" +
+                     tool->name + "\"");
+  }
+}
+
+struct Sent {
+  const char* state;
+  bool applies;
+  const char* when;
+};
+
+void CheckSentStates(const CheckContext& context, const ModelObject& doctor) {
+  if (!doctor.states_known) return;
+  const ContentModel& model = context.model;
+  const bool patients =
+      std::ranges::any_of(model.objects, [](const auto& o) { return IsPatient(*o); });
+  const bool tools = std::ranges::any_of(
+      model.globals, [](const auto& o) { return o->IsType("tool") && !o->IsNamed("handtool"); });
+  const auto screen = [&](auto fits) {
+    return std::ranges::any_of(model.screens, [&](const auto& s) {
+      return !s->IsNamed("tools") && !s->IsNamed("cursors") && fits(s->name);
+    });
+  };
+  const auto holds = [](const std::string& name, const char* word) {
+    return ContainsNoCase(name, word);
+  };
+  const Sent sent[] = {
+      {"tryagain", patients, "a patient was hurt on Easy"},
+      {"startover", patients, "a patient was hurt"},
+      {"alreadyhaveone", tools, "a tool is offered twice"},
+      {"toomany", tools, "the bar is full"},
+      {"helptoolitem", tools, "the first tool is won"},
+      {"helpmedicalbook", model.Screen("floor1hall1") != nullptr, "floor1hall1 is entered"},
+      {"helpelevator", model.Screen("elevator") != nullptr, "the elevator is entered"},
+      {"helptoolroom", screen([&](const std::string& name) {
+         return holds(name, "empty") && !holds(name, "general");
+       }),
+       "a room of tools is entered"},
+      {"helppatientroom", screen([&](const std::string& name) {
+         return !holds(name, "empty") && !holds(name, "hall") && !holds(name, "elevator") &&
+                !holds(name, "screen");
+       }),
+       "a patient's room is entered"},
+  };
+  const FilePlace place =
+      doctor.states.empty() ? doctor.name_place : FilePlace{doctor.states.front().Place().file, 0};
+  for (const Sent& row : sent) {
+    if (!row.applies || doctor.State(row.state) != nullptr) continue;
+    context.Tell(Check::kDoctorState, doctor, place,
+                 std::string("Did not find a valid object state: the game sends the doctor to \"") +
+                     row.state + "\" when " + row.when);
+  }
+}
+
+void CheckSurgery(const CheckContext& context, const ModelObject& screen) {
+  const ModelObject* machine = nullptr;
+  const char* stage = nullptr;
+  const char* patient = nullptr;
+  for (const ModelChild& child : screen.children) {
+    if (child.object == nullptr) continue;
+    if (child.object->IsNamed("surgerymachine")) machine = child.object.get();
+    if (!child.object->IsType("patient")) continue;
+    if (child.object->IsNamed("kangaroo")) stage = "tumorStage1", patient = "kangaroo";
+    if (child.object->IsNamed("scarecrow")) stage = "tonsilsStage1", patient = "scarecrow";
+  }
+  if (stage == nullptr) return;
+  if (machine != nullptr && (!machine->states_known || machine->State(stage) != nullptr)) return;
+  context.Tell(Check::kSurgery, screen, screen.name_place,
+               std::string("the patient \"") + patient + "\" needs a \"surgerymachine\" with a " +
+                   "state \"" + stage + "\" beside it");
+}
+
+}  // namespace
+
+void CheckPatients(const CheckContext& context) {
+  for (const ModelObjectRef& object : context.model.objects) {
+    if (IsPatient(*object)) {
+      for (const ObjState& state : object->states) {
+        if (CanBeHurt(state)) CheckTwin(context, *object, state);
+      }
+    }
+    CheckSurgery(context, *object);
+  }
+  if (const ModelObject* doctor = context.model.Global("doctor")) {
+    CheckDoctor(context, *doctor);
+    CheckSentStates(context, *doctor);
+  }
+}
+
+}  // namespace quendle
