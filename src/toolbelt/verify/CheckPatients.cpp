@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "object/VerifyRules.h"
 #include "toolbelt/verify/Checks.h"
+#include "toolbelt/verify/ScriptWalk.h"
 
 namespace quendle {
 namespace {
@@ -33,10 +34,19 @@ void CheckTwin(const CheckContext& context, const ModelObject& patient, const Ob
   }
 }
 
-// A patient under the pointer is hurt in the state below, and one that answers no event can't be
-// hurt at all. The engine's own check asks for their twins as well.
-bool CanBeHurt(const ObjState& state) {
-  return !ContainsNoCase(state.Name(), "highlight") && !SaysNothing(state.ScriptState());
+// A state of the patient can be hurt if its script leads to a state with "owww" in its name.
+bool CanBeHurt(const ModelObject& patient, const ObjState& state) {
+  const ModelScript* script = patient.Script(state.ScriptState());
+  if (script == nullptr) return false;
+  bool hurts = false;
+  for (const auto& text : script->texts) {
+    if (text->parsed == nullptr) continue;
+    WalkScript(patient, *script, text->parsed->Root(), [&](const Command& node, const StateSet&) {
+      hurts = hurts || ContainsNoCase(node.Text(), "owww");
+    });
+  }
+  // Under the pointer it is hurt in the state below.
+  return hurts && !ContainsNoCase(state.Name(), "highlight");
 }
 
 void CheckDoctor(const CheckContext& context, const ModelObject& doctor) {
@@ -126,7 +136,7 @@ void CheckPatients(const CheckContext& context) {
   for (const ModelObjectRef& object : context.model.objects) {
     if (IsPatient(*object)) {
       for (const ObjState& state : object->states) {
-        if (CanBeHurt(state)) CheckTwin(context, *object, state);
+        if (CanBeHurt(*object, state)) CheckTwin(context, *object, state);
       }
     }
     CheckSurgery(context, *object);

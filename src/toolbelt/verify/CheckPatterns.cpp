@@ -118,7 +118,7 @@ class ConditionChecker {
         earlier, [&](const std::string& other) { return Hides(other, pattern); });
     if (hider != earlier.end()) {
       tell(Check::kHiddenBranch, "never comes: \"" + *hider + "\" above takes it");
-    } else if (object_.role != ModelRole::kCell &&
+    } else if (object_.role != ModelRole::kCell && object_.animations_known &&
                !living_.contains({branch.Place().file, branch.Place().line})) {
       std::string bare = pattern;
       std::erase(bare, '*');

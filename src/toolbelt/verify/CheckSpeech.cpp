@@ -2,7 +2,6 @@
 
 #include "base/Text.h"
 #include "toolbelt/verify/Checks.h"
-#include "toolbelt/verify/ScriptWalk.h"
 
 namespace quendle {
 namespace {
@@ -11,12 +10,22 @@ bool Speaks(const ObjState& state) {
   return !SaysNothing(state.SoundState()) && !EqualsNoCase(state.SoundState(), "unchanged");
 }
 
+// The sound of a short animation sounds on where the state that it goes back to says "unchanged".
+bool GoesOnBehind(const ModelObject& object, const ObjState& state) {
+  const std::size_t cut = state.Name().rfind('-');
+  const ObjState* back =
+      cut == std::string::npos ? nullptr : object.State(state.Name().substr(0, cut));
+  if (back == nullptr) back = object.State("default");
+  return back != nullptr && EqualsNoCase(back->SoundState(), "unchanged");
+}
+
 // A state that goes back once its sound is silent needs a timer that looks, and goes on looking.
 void CheckPassingState(const CheckContext& context, const ModelObject& object,
                        const ObjState& state) {
   if (!Speaks(state) || !context.flow.Passes(object, state.Name())) return;
   const ModelAnimation* animation = object.Animation(state.AnimationState());
   if (animation != nullptr && animation->Loops() && animation->Length() >= 2) return;
+  if (animation != nullptr && !animation->Loops() && GoesOnBehind(object, state)) return;
   std::string text = "the passing state \"" + state.Name() + "\" speaks, and ";
   if (animation == nullptr) {
     text += "\"" + state.AnimationState() + "\" is no animation that could wait for the end";

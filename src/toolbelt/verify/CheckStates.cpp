@@ -1,3 +1,6 @@
+#include <set>
+#include <utility>
+
 #include "base/Text.h"
 #include "toolbelt/verify/Checks.h"
 
@@ -71,6 +74,29 @@ void CheckSequences(const CheckContext& context, const ModelObject& object,
   }
 }
 
+// Objects that share a state file may each enter other states of it.
+void CheckIdleStates(const CheckContext& context) {
+  std::set<std::pair<std::string, int>> entered;
+  const auto key = [](const ObjState& state) {
+    return std::pair(state.Place().file, state.Place().line);
+  };
+  for (const ModelObjectRef& object : context.model.objects) {
+    for (const ObjState& state : object->states) {
+      // The game itself leads cells through their states.
+      if (object->role == ModelRole::kCell || context.flow.Enters(*object, state.Name())) {
+        entered.insert(key(state));
+      }
+    }
+  }
+  for (const ModelObjectRef& object : context.model.objects) {
+    for (const ObjState& state : object->states) {
+      if (!entered.insert(key(state)).second) continue;
+      context.Tell(Check::kIdleState, *object, state.Place(),
+                   "nothing leads to the state \"" + state.Name() + "\"");
+    }
+  }
+}
+
 }  // namespace
 
 bool SaysNothing(const std::string& name) { return EqualsNoCase(name, "nothing"); }
@@ -81,15 +107,13 @@ void CheckStates(const CheckContext& context) {
       CheckSound(context, *object, state);
       CheckAnimation(context, *object, state);
       CheckScript(context, *object, state);
-      if (object->role == ModelRole::kCell || context.flow.Enters(*object, state.Name())) continue;
-      context.Tell(Check::kIdleState, *object, state.Place(),
-                   "nothing leads to the state \"" + state.Name() + "\"");
     }
     if (!object->animations_known) continue;
     for (const ModelAnimation& animation : object->animations) {
       CheckSequences(context, *object, animation);
     }
   }
+  CheckIdleStates(context);
 }
 
 }  // namespace quendle

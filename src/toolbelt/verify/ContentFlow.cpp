@@ -56,9 +56,10 @@ void ContentFlow::WalkObject(const ModelObject& object, bool tell) {
   for (const ModelScript& script : object.scripts) {
     for (const auto& text : script.texts) {
       if (text->parsed == nullptr) continue;
-      ForEachStatement(text->parsed->Root(), [&](const Command& node) {
-        WalkStatement(object, script, node, instances, tell);
-      });
+      WalkScript(object, script, text->parsed->Root(),
+                 [&](const Command& node, const StateSet& states) {
+                   WalkStatement(object, node, states, instances, tell);
+                 });
     }
   }
   // Directives of its own file and of the lists that hold it.
@@ -82,23 +83,26 @@ void ContentFlow::WalkObject(const ModelObject& object, bool tell) {
   }
 }
 
-void ContentFlow::WalkStatement(const ModelObject& object, const ModelScript& script,
-                                const Command& node, const std::vector<ModelInstance>& instances,
+void ContentFlow::WalkStatement(const ModelObject& object, const Command& node,
+                                const StateSet& states, const std::vector<ModelInstance>& instances,
                                 bool tell) {
   const Statement& statement = *node.ActionStatement();
   if (statement.Verb() == StatementVerb::kOther) return;
   if (SplitTokens(statement.Text(), ' ').size() < 2) return;  // told with the script
-  for (const ExpandedWord& word : ExpandWord(object, script, statement.Argument())) {
+  // Counting past the last state is how a row of states ends.
+  const bool tell_this = tell && !CountsUp(statement.Argument());
+  for (const std::string& word : ExpandWord(object, statement.Argument(), states)) {
     switch (statement.Verb()) {
       case StatementVerb::kMtp:
-        Message(object, word, node.Place(), instances, tell);
+        Message(object, word, node.Place(), instances, tell_this);
         break;
       case StatementVerb::kChange:
       case StatementVerb::kRunState:
-        EnterOwn(object, word, node.Place(), statement.Verb() == StatementVerb::kRunState, tell);
+        EnterOwn(object, word, node.Place(), statement.Verb() == StatementVerb::kRunState,
+                 tell_this);
         break;
       case StatementVerb::kRunSound:
-        RunSound(object, word, node.Place(), tell);
+        RunSound(object, word, node.Place(), tell_this);
         break;
       case StatementVerb::kOther:
         break;
@@ -106,40 +110,40 @@ void ContentFlow::WalkStatement(const ModelObject& object, const ModelScript& sc
   }
 }
 
-void ContentFlow::Message(const ModelObject& object, const ExpandedWord& word,
+void ContentFlow::Message(const ModelObject& object, const std::string& message,
                           const FilePlace& place, const std::vector<ModelInstance>& instances,
                           bool tell) {
   Verdict wrong;
   bool taken = false;
   for (const ModelInstance& instance : instances) {
-    const Verdict verdict = router_.SendUp(instance, word.word, effects_[RootScreen(instance)]);
+    const Verdict verdict = router_.SendUp(instance, message, effects_[RootScreen(instance)]);
     taken = taken || verdict.fine;
     if (!verdict.fine) wrong = verdict;
   }
-  if (taken || wrong.fine || word.counts_up) return;
+  if (taken || wrong.fine) return;
   Tell(tell, object, place, wrong.check, wrong.text);
 }
 
-void ContentFlow::EnterOwn(const ModelObject& object, const ExpandedWord& word,
+void ContentFlow::EnterOwn(const ModelObject& object, const std::string& state,
                            const FilePlace& place, bool passing, bool tell) {
   MessageEffects& effects = effects_[nullptr];
-  effects.states.insert({&object, FoldCase(word.word)});
-  if (passing) effects.passing.insert({&object, FoldCase(word.word)});
-  if (!object.states_known || word.counts_up || object.State(word.word) != nullptr) return;
+  effects.states.insert({&object, FoldCase(state)});
+  if (passing) effects.passing.insert({&object, FoldCase(state)});
+  if (!object.states_known || object.State(state) != nullptr) return;
   Tell(tell, object, place, Check::kUnknownState,
-       "Did not find a valid object state: there is no state \"" + word.word + "\"" +
-           DidYouMean(word.word, object.StateNames()));
+       "Did not find a valid object state: there is no state \"" + state + "\"" +
+           DidYouMean(state, object.StateNames()));
 }
 
-void ContentFlow::RunSound(const ModelObject& object, const ExpandedWord& word,
+void ContentFlow::RunSound(const ModelObject& object, const std::string& sound,
                            const FilePlace& place, bool tell) {
-  if (EqualsNoCase(word.word, "nothing") || EqualsNoCase(word.word, "unchanged")) return;
+  if (EqualsNoCase(sound, "nothing") || EqualsNoCase(sound, "unchanged")) return;
   sounding_.insert(&object);
-  if (!object.sounds_known || object.Sound(word.word) != nullptr) return;
+  if (!object.sounds_known || object.Sound(sound) != nullptr) return;
   std::vector<std::string> names;
-  for (const ModelSound& sound : object.sounds) names.push_back(sound.name);
+  for (const ModelSound& known : object.sounds) names.push_back(known.name);
   Tell(tell, object, place, Check::kUnknownSoundRun,
-       "Did not find Sound State \"" + word.word + "\"" + DidYouMean(word.word, names));
+       "Did not find Sound State \"" + sound + "\"" + DidYouMean(sound, names));
 }
 
 void ContentFlow::Tell(bool tell, const ModelObject& object, const FilePlace& place, Check check,

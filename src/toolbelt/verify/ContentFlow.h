@@ -41,13 +41,13 @@ class ContentFlow {
  private:
   void Walk(bool tell);
   void WalkObject(const ModelObject& object, bool tell);
-  void WalkStatement(const ModelObject& object, const ModelScript& script, const Command& node,
+  void WalkStatement(const ModelObject& object, const Command& node, const StateSet& states,
                      const std::vector<ModelInstance>& instances, bool tell);
-  void Message(const ModelObject& object, const ExpandedWord& word, const FilePlace& place,
+  void Message(const ModelObject& object, const std::string& message, const FilePlace& place,
                const std::vector<ModelInstance>& instances, bool tell);
-  void EnterOwn(const ModelObject& object, const ExpandedWord& word, const FilePlace& place,
+  void EnterOwn(const ModelObject& object, const std::string& state, const FilePlace& place,
                 bool passing, bool tell);
-  void RunSound(const ModelObject& object, const ExpandedWord& word, const FilePlace& place,
+  void RunSound(const ModelObject& object, const std::string& sound, const FilePlace& place,
                 bool tell);
   void Tell(bool tell, const ModelObject& object, const FilePlace& place, Check check,
             std::string text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -8,18 +9,21 @@
 
 namespace quendle {
 
-// Calls `visit` for every statement of a script, in source order.
-void ForEachStatement(const Command& node, const std::function<void(const Command&)>& visit);
+// States in which an object can be.
+using StateSet = std::set<std::string>;
 
-// A word of a statement as one of the object's states makes it.
-struct ExpandedWord {
-  std::string word;
-  bool counts_up = false;  // made by "<incrementstate>", which may pass the last state
-};
+// Calls `visit` for every statement of a script, in source order, with the states in which the
+// object can be when it runs: those that name the script, as `change` and `runstate` above have
+// turned them.
+void WalkScript(const ModelObject& object, const ModelScript& script, const Command& root,
+                const std::function<void(const Command&, const StateSet&)>& visit);
 
-// All that the second word of a statement can become: tokens stand for the object, for each state
-// in which the script runs, and for each region. One word where it holds no token.
-std::vector<ExpandedWord> ExpandWord(const ModelObject& object, const ModelScript& script,
-                                     const std::string& word);
+// All that the second word of a statement can become: tokens stand for the object, for each of the
+// states, and for each region. One word where it holds no token.
+std::vector<std::string> ExpandWord(const ModelObject& object, const std::string& word,
+                                    const StateSet& states);
+
+// True for a word that may lead past the last state: the object then stays where it is.
+bool CountsUp(const std::string& word);
 
 }  // namespace quendle
