@@ -23,10 +23,10 @@ class VerifyClinic {
  public:
   VerifyClinic() {
     for (const ContentPiece& piece : SmallestContent()) files_[piece.path] = piece.bytes;
-    for (const std::string screen :
-         {"introscreen", "hall"}) {  // small pictures are quick to look at
-      Edit("\\Info\\" + screen + "\\" + screen + "frames.txt", "800\n600", "64\n64");
-      Put("\\Info\\" + screen + "\\" + screen + ".bmp", Bitmap(64, 64));
+    // One picture for all screens is quick to look at.
+    files_["\\Info\\room.bmp"] = Bitmap(800, 600);
+    for (const std::string screen : {"introscreen", "hall"}) {
+      ShareRoom(screen);
     }
     MakeRooms();
     MakeDog();
@@ -49,9 +49,12 @@ class VerifyClinic {
     text.replace(at, from.size(), to);
   }
 
+  void CopyTo(MemoryFileSystem& files) const {
+    for (const auto& [path, bytes] : files_) files.Put(path, bytes);
+  }
   Findings Verify(const std::string& side_list = "") const {
     MemoryFileSystem files;
-    for (const auto& [path, bytes] : files_) files.Put(path, bytes);
+    CopyTo(files);
     VerifiedTree tree{files, "", Listing()};
     std::ostringstream unseen;
     Progress progress(unseen, false);
@@ -150,6 +153,21 @@ class VerifyClinic {
         Lines({"begin", "if action = *mouseclick", "mtp " + message, "endif", "end"});
   }
 
+  void ShareRoom(const std::string& screen) {
+    const std::string stem = "\\Info\\" + screen + "\\" + screen;
+    Edit(stem + "animation.txt", "<CurrentDirectory>\\" + screen + ".bmp", "\\Info\\room.bmp");
+    Remove(stem + ".bmp");
+  }
+  // A screen that shows one picture of the whole frame.
+  void Screen(const std::string& type, const std::string& name, const std::string& children) {
+    Object(type, name,
+           {.states = State("default", "nothing", "room", "nothing"),
+            .animation = Head(name) + Animation("room", "nonloop", "room"),
+            .frames = Lines({"room", "nothing", "0", "0", "0", "0", "800", "600", "unused"}),
+            .children = children});
+    ShareRoom(name);
+  }
+
   void MakeRooms() {
     Append("\\Info\\screens.txt",
            "\\Info\\dogroom\\dogroom.txt\n\\Info\\emptyroom\\emptyroom.txt\n"
@@ -161,20 +179,14 @@ class VerifyClinic {
     Button("shelfdoor", "cs_emptyroom");
     Button("halldoor", "cs_hall");
     Button("leave", "subgamedone");
-    Object("hall", "dogroom",
-           {.states = State("default", "nothing", "room", "nothing"),
-            .animation = Head("dogroom") + Animation("room", "nonloop", "room"),
-            .frames = Frame("room", "nothing", 0),
-            .children = "\\Info\\halldoor\\halldoor.txt xpos_20 ypos_300\n"
-                        "\\Info\\dog\\dog.txt xpos_200 ypos_100\n"
-                        "GlobalObject_doctor xpos_600\n"});
-    Object("hall", "emptyroom",
-           {.states = State("default", "nothing", "room", "nothing"),
-            .animation = Head("emptyroom") + Animation("room", "nonloop", "room"),
-            .frames = Frame("room", "nothing", 0),
-            .children = "\\Info\\halldoor\\halldoor.txt xpos_20 ypos_300\n"
-                        "\\Info\\soap\\soap.txt xpos_200 ypos_100\n"
-                        "GlobalObject_doctor xpos_600\n"});
+    Screen("hall", "dogroom",
+           "\\Info\\halldoor\\halldoor.txt xpos_20 ypos_300\n"
+           "\\Info\\dog\\dog.txt xpos_200 ypos_100\n"
+           "GlobalObject_doctor xpos_600\n");
+    Screen("hall", "emptyroom",
+           "\\Info\\halldoor\\halldoor.txt xpos_20 ypos_300\n"
+           "\\Info\\soap\\soap.txt xpos_200 ypos_100\n"
+           "GlobalObject_doctor xpos_600\n");
   }
 
   void MakeDog() {
@@ -249,13 +261,10 @@ class VerifyClinic {
   }
 
   void MakeBoard() {
-    Object("subgame", "squarescreen",
-           {.states = State("default", "nothing", "room", "nothing"),
-            .animation = Head("squarescreen") + Animation("room", "nonloop", "room"),
-            .frames = Frame("room", "nothing", 0),
-            .children = "\\Info\\board\\board.txt xpos_0 ypos_0\n"
-                        "\\Info\\leave\\leave.txt xpos_700 ypos_10\n"
-                        "\\Info\\Play1\\Play1.txt xpos_300 ypos_10\n"});
+    Screen("subgame", "squarescreen",
+           "\\Info\\board\\board.txt xpos_0 ypos_0\n"
+           "\\Info\\leave\\leave.txt xpos_700 ypos_10\n"
+           "\\Info\\Play1\\Play1.txt xpos_300 ypos_10\n");
     Button("Play1", "toobj_board_startgame");
     Object("playareasquare", "board",
            {.states = State("default", "nothing", "nothing", "nothing"),

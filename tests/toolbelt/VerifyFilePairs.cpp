@@ -73,6 +73,10 @@ std::vector<CheckPair> FilePairs() {
             Edit("leave\\leave.txt", "data.txt\nnothing\n",
                  "data.txt\n\\Info\\hall\\hallchildren.txt\n")}),
        Edit("leave\\leave.txt", "button\n", "menu\n")},
+      {"V212", "Info\\board\\puzzle.txt:3", Edit("board\\puzzle.txt", "\n3\n", "\n4\n"),
+       Edit("board\\puzzle.txt", "\n3\n", "\n3 tiles\n")},
+      {"V212", "Info\\board\\puzzle.txt:13", Edit("board\\puzzle.txt", "t1\n", ""),
+       Append("board\\puzzle.txt", "t1\n")},
   };
 }
 

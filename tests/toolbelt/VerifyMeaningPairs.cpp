@@ -75,6 +75,14 @@ std::vector<CheckPair> MeaningPairs() {
        Edit("doctor\\doctorstates.txt", "startover", "StartOver")},
       {"V904", kRoom, Machine("kangaroo", "stage1"), Machine("kangaroo", "tumorStage1")},
       {"V904", kRoom, Machine("scarecrow", "tumorStage1"), Machine("scarecrow", "tonsilsStage1")},
+      {"V903", "Info\\dog\\dog.txt:2",
+       All({Edit("globalgameobjects.txt", "\\Info\\doctor\\doctor.txt\n", ""),
+            Remove("doctor\\doctor.txt")}),
+       Nothing()},
+      {"V905", "Info\\dog\\dogstates.txt:13",
+       All({Edit("dog\\dogstates.txt", "better1", "better3"),
+            Edit("dog\\treatscript.txt", "change better1", "change better3")}),
+       Edit("dog\\dogstates.txt", "better1", "Better1")},
   };
 }
 

@@ -18,6 +18,11 @@ Plant Bark(const std::string& state) {
               Edit("dog\\dogstates.txt", state + "\nnothing", state + "\nbark")});
 }
 
+// A wave of so many seconds.
+std::string Silence(int seconds) {
+  return WaveOf(std::string(static_cast<std::size_t>(seconds) * 8000, '\x80'), 8000, 1, 8);
+}
+
 std::string Plain(std::uint32_t color) {
   const std::vector<std::uint32_t> pixels(192 * 64, color);
   return WriteBitmapFile(192, 64, pixels.data());
@@ -92,6 +97,8 @@ std::vector<CheckPair> PartPairs() {
        All({Bark("default-owww"),
             Edit("dog\\treatscript.txt", "change better1",
                  "runsound bark\nelseif action = handmouseclick\nmtp cs_hall")})},
+      {"V408", "Info\\doodle.wma:0", Put("doodle.wma", Silence(176)),
+       Put("doodle.wma", Silence(174))},
       {"V501", "Info\\dog\\dog.bmp:0", Put("dog\\dog.bmp", "BM and nothing else"),
        Put("dog\\dog.bmp", Plain(0x102030))},
       {"V502", "Info\\tools\\tool.bmp:0", Put("tools\\tool.bmp", Plain(0xC8C8C7)),
@@ -100,6 +107,8 @@ std::vector<CheckPair> PartPairs() {
        Put("dog\\dog.bmp", Plain(0xF0E0D0))},
       {"V502", "Info\\dog\\dog.bmp:0", Put("dog\\dog.bmp", Plain(0xFF00FF)),
        Put("dog\\dog.bmp", Plain(0xC8C8C8))},
+      {"V503", "Info\\hall\\hall.txt:2", Edit("hall\\hallframes.txt", "800\n600", "800\n500"),
+       Edit("hall\\hallframes.txt", "0\n0\n0\n0", "stable\nstable\n0\n0")},
   };
 }
 

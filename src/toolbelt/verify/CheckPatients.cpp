@@ -1,5 +1,8 @@
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "object/VerifyRules.h"
 #include "toolbelt/verify/Checks.h"
@@ -63,6 +66,20 @@ void CheckDoctor(const CheckContext& context, const ModelObject& doctor) {
   }
 }
 
+// The highest N of a state "betterN", of which all below must be there.
+void CheckRowOfStates(const CheckContext& context, const ModelObject& patient) {
+  for (const ObjState& state : patient.states) {
+    const std::string name = FoldCase(state.Name());
+    if (!name.starts_with("better")) continue;
+    const std::optional<double> number = ParseNumber(name.substr(6));
+    if (!number || *number < 2) continue;
+    const std::string before = "better" + std::to_string(std::lround(*number) - 1);
+    if (patient.State(before) != nullptr) continue;
+    context.Tell(Check::kGapInRow, patient, state.Place(),
+                 "the state \"" + state.Name() + "\" has no \"" + before + "\" before it");
+  }
+}
+
 struct Sent {
   const char* state;
   bool applies;
@@ -112,6 +129,18 @@ void CheckSentStates(const CheckContext& context, const ModelObject& doctor) {
   }
 }
 
+// Without a doctor nobody tells a child that a treatment hurt.
+void CheckNoDoctor(const CheckContext& context) {
+  for (const ModelObjectRef& object : context.model.objects) {
+    if (object->IsNamed("doctor")) return;
+  }
+  for (const ModelObjectRef& object : context.model.objects) {
+    if (!IsPatient(*object)) continue;
+    context.Tell(Check::kDoctorState, *object, object->name_place,
+                 "there is a patient \"" + object->name + "\", and no global object \"doctor\"");
+  }
+}
+
 void CheckSurgery(const CheckContext& context, const ModelObject& screen) {
   const ModelObject* machine = nullptr;
   const char* stage = nullptr;
@@ -135,6 +164,7 @@ void CheckSurgery(const CheckContext& context, const ModelObject& screen) {
 void CheckPatients(const CheckContext& context) {
   for (const ModelObjectRef& object : context.model.objects) {
     if (IsPatient(*object)) {
+      CheckRowOfStates(context, *object);
       for (const ObjState& state : object->states) {
         if (CanBeHurt(*object, state)) CheckTwin(context, *object, state);
       }
@@ -144,6 +174,8 @@ void CheckPatients(const CheckContext& context) {
   if (const ModelObject* doctor = context.model.Global("doctor")) {
     CheckDoctor(context, *doctor);
     CheckSentStates(context, *doctor);
+  } else {
+    CheckNoDoctor(context);
   }
 }
 

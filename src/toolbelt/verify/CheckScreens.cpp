@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "platform/Geometry.h"
 #include "toolbelt/verify/Checks.h"
 
 namespace quendle {
@@ -40,6 +41,20 @@ void CheckName(const CheckContext& context, const ModelObject& screen) {
   }
 }
 
+// Some frame of the first picture that a screen shows fills the whole frame of the game.
+bool Covers(const ModelObject& screen) {
+  const ObjState* state = screen.State(screen.FirstState(nullptr));
+  const ModelAnimation* animation =
+      state == nullptr ? nullptr : screen.Animation(state->AnimationState());
+  if (animation == nullptr) return false;
+  return std::ranges::any_of(animation->record.frame_sets, [&](const auto& names) {
+    const ModelFrame* frame = names.empty() ? nullptr : screen.Frame(names.front());
+    // A placement of 0, or none where the screen stands at 0.
+    return frame != nullptr && frame->frame.PlaceX <= 0 && frame->frame.PlaceY <= 0 &&
+           frame->frame.SourceWidth >= kFrameWidth && frame->frame.SourceHeight >= kFrameHeight;
+  });
+}
+
 }  // namespace
 
 void CheckScreens(const CheckContext& context) {
@@ -47,6 +62,10 @@ void CheckScreens(const CheckContext& context) {
   for (const ModelObjectRef& screen : context.model.screens) {
     if (screen->IsNamed("tools") || screen->IsNamed("cursors")) continue;
     CheckName(context, *screen);
+    if (screen->states_known && screen->animations_known && !Covers(*screen)) {
+      context.Tell(Check::kNotCovered, *screen, screen->name_place,
+                   "the screen \"" + screen->name + "\" shows no frame of 800 by 600 at 0,0");
+    }
     if (reached.contains(FoldCase(screen->name))) continue;
     context.Tell(Check::kUnreachable, *screen, screen->name_place,
                  "no message leads from \"introscreen\" to \"" + screen->name + "\"");

@@ -79,6 +79,10 @@ constexpr auto kRows = std::to_array<CheckRow>({
     {Check::kMenuChildren, "V211", kWarning, "a menu with children",
      "A menu shows itself only: the children of its list are made and dropped.",
      "Put them beside the menu."},
+    {Check::kBoard, "V212", kError, "a game that can't be laid out",
+     "A board has 3 tiles in a row and a state for each of its 8 tiles; the names of more than "
+     "11 kinds of enemies collide.",
+     "Mend the board, or shorten the list."},
     {Check::kUnknownSound, "V301", kError, "a state with an unknown sound",
      "The game ends when the state is entered.",
      "Mend the name, or add the sound to the sound file."},
@@ -135,12 +139,18 @@ constexpr auto kRows = std::to_array<CheckRow>({
     {Check::kSoundLeaves, "V407", kWarning, "a sound is cut by a change of screen",
      "What leaves a screen falls silent, so a sound begun just before isn't heard.",
      "Let an object of the screen `cursors` make it."},
+    {Check::kMusicLong, "V408", kNote, "music that is cut",
+     "The music is begun anew every 175 seconds.",
+     "Make it a little shorter, and let it die away."},
     {Check::kPictureDamaged, "V501", kError, "a picture that can't be read",
      "The game ends when its object is loaded.", "Make it anew; `quendle picture` does."},
     {Check::kKeyColour, "V502", kWarning, "a ground that isn't the key colour",
      "Only the colour 200,200,200 is left out when a picture is drawn; the window path takes "
      "the colour from the top left of `tool.bmp`.",
      "Make the picture with `quendle picture`."},
+    {Check::kNotCovered, "V503", kWarning, "a screen that doesn't cover the frame",
+     "Nothing clears the last picture: what a screen leaves free shows what was there.",
+     "Give its first state a frame of 800 by 600 at 0,0."},
     {Check::kAccidentalEnd, "V601", kError, "a block that is closed by accident",
      "Block words are found by their letters: a line that holds \"end\" closes a block.",
      "Use another word, such as `pal` for `friend`."},
@@ -225,13 +235,18 @@ constexpr auto kRows = std::to_array<CheckRow>({
      "animation ends and which has no script.",
      "Add the twin."},
     {Check::kInfoState, "V902", kWarning, "the doctor doesn't know a tool",
-     "He has a state NAME and `info` for each tool.", "Add the state."},
+     "For each tool he has a state: its name without `tool`, and `info` behind it.",
+     "Add the state."},
     {Check::kDoctorState, "V903", kWarning, "the doctor lacks a state that the game enters",
      "The game sends him there by itself, and he stays silent.", "Add the state."},
     {Check::kSurgery, "V904", kWarning, "a surgery machine without its first stage",
      "When a kangaroo or a scarecrow starts over, `surgerymachine` is put into `tumorStage1` "
      "or `tonsilsStage1`.",
      "Add the state."},
+    {Check::kGapInRow, "V905", kWarning, "a gap in the row of getting well",
+     "`<incrementstate>` goes from `default` to `better1`, `better2` and so on; a patient "
+     "stays where the next one is missing.",
+     "Add the state, or rename the ones behind it."},
 });
 
 }  // namespace

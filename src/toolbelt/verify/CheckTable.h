@@ -36,6 +36,7 @@ enum class Check {
   kPlacementWins,
   kPlayAreaPlace,
   kMenuChildren,
+  kBoard,
   // States, animations, frames
   kUnknownSound,
   kUnknownAnimation,
@@ -59,9 +60,11 @@ enum class Check {
   kGreeting,
   kHoverSound,
   kSoundLeaves,
+  kMusicLong,
   // Pictures
   kPictureDamaged,
   kKeyColour,
+  kNotCovered,
   // Scripts
   kAccidentalEnd,
   kAccidentalElse,
@@ -99,6 +102,7 @@ enum class Check {
   kInfoState,
   kDoctorState,
   kSurgery,
+  kGapInRow,
 };
 
 // A check as it is told to authors. The texts are plain sentences, words of content in backticks.

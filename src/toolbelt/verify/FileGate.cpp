@@ -33,6 +33,23 @@ std::string WithoutMark(std::string line) {
   return line.starts_with("\xEF\xBB\xBF") ? line.substr(3) : line;
 }
 
+std::string ExtensionOf(const std::string& name) {
+  const std::size_t dot = name.rfind('.');
+  return dot == std::string::npos ? "" : name.substr(dot);
+}
+
+// The file of the same kind in the same folder whose name is nearest.
+std::string NearestFile(const ContentListing& listing, const std::string& path) {
+  const std::size_t cut = path.rfind('\\') + 1;
+  std::vector<std::string> names;
+  for (const std::string& beside : listing.Beside(path)) {
+    if (EqualsNoCase(ExtensionOf(beside), ExtensionOf(path))) {
+      names.push_back(beside.substr(beside.rfind('\\') + 1));
+    }
+  }
+  return NearestName(path.substr(cut), names);
+}
+
 }  // namespace
 
 bool FileGate::Names(const NamedFile& file, Check missing) {
@@ -49,7 +66,7 @@ bool FileGate::Names(const NamedFile& file, Check missing) {
 }
 
 void FileGate::TellMissing(const NamedFile& file, Check missing) {
-  const std::string nearest = NearestName(file.resolved, listing_.Beside(file.resolved));
+  const std::string nearest = NearestFile(listing_, file.resolved);
   const std::string hint = nearest.empty() ? "" : "; did you mean \"" + nearest + "\"?";
   const std::string warning = missing == Check::kSoundMissing ? "Did not find Sound File: " : "";
   findings_.Add(missing, file.object, file.place,

@@ -23,8 +23,8 @@ class Findings {
   void Add(Check check, std::string object, FilePlace place, std::string text);
   std::vector<Finding>& All() { return findings_; }
   const std::vector<Finding>& All() const { return findings_; }
-  // Objects in the order in which they were first named; within each by file, line and code.
-  void Sort();
+  // Objects in that order, those without an object first; within each by file, line and code.
+  void Sort(const std::vector<std::string>& objects);
 
  private:
   std::vector<Finding> findings_;

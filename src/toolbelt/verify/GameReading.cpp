@@ -17,6 +17,10 @@ constexpr std::array kDriftFiles = {"cell1data.txt", "cell2data.txt", "cell3data
                                     "cell4data.txt", "cell5data.txt", "cell6data.txt",
                                     "gooddata.txt"};
 
+constexpr int kTilesPerRow = 3;
+constexpr std::size_t kTiles = 8;
+constexpr std::size_t kMostCells = 11;  // "cell111" is the player, and the first enemy of kind 11
+
 }  // namespace
 
 void TreeReader::ReadPlayArea(ModelObject& area, const NamedFile& object_file,
@@ -62,6 +66,11 @@ void TreeReader::ReadShooter(ModelObject& area, const NamedFile& header) {
   const NamedFile list = InFile(area, read.cell_list, {gate_.DisplayName(header.resolved), 4});
   std::vector<std::string> cells;
   gate_.Read(list, [&](TextStream& stream) { cells = ReadCellList(stream); });
+  if (cells.size() > kMostCells) {
+    findings_.Add(Check::kBoard, header.object, {gate_.DisplayName(list.resolved), 0},
+                  std::to_string(cells.size()) + " cells are more than " +
+                      std::to_string(kMostCells) + ": their names collide");
+  }
   int line = 0;
   for (const std::string& cell : cells) {
     ReadCell(area, InFile(area, cell, {gate_.DisplayName(list.resolved), ++line}));
@@ -75,6 +84,15 @@ void TreeReader::ReadBoard(ModelObject& area, const NamedFile& board) {
   SquareData read;
   if (!gate_.Read(board, [&](TextStream& stream) { read = ReadSquareData(stream); })) return;
   const std::string file = gate_.DisplayName(board.resolved);
+  if (read.grid_size != kTilesPerRow) {
+    findings_.Add(
+        Check::kBoard, board.object, read.grid_place,
+        "a board of " + std::to_string(read.grid_size) + " tiles per row can't be laid out");
+  } else if (read.state_names.size() < kTiles) {
+    findings_.Add(Check::kBoard, board.object, read.end_place,
+                  "there are " + std::to_string(read.state_names.size()) + " state names for " +
+                      std::to_string(kTiles) + " tiles");
+  }
   const NamedFile cell = InFile(area, read.cell_file, {file, 1});
   ReadCell(area, cell);
   const auto known = known_.find("cell " + FoldCase(cell.resolved));

@@ -28,7 +28,9 @@ Findings VerifyContent(VerifiedTree& tree, const SideList* side_list, Progress& 
   const ContentFlow flow(model);
   const CheckContext context{model, flow, gate, findings, progress};
   for (auto* check : kChecks) check(context);
-  findings.Sort();
+  std::vector<std::string> objects;
+  for (const ModelObjectRef& object : model.objects) objects.push_back(ModelPath(*object));
+  findings.Sort(objects);
   if (side_list != nullptr) side_list->Apply(findings);
   progress.Clear();
   return findings;
