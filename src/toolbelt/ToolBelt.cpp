@@ -17,6 +17,7 @@ constexpr int kUsageError = 2;
 constexpr void (*kCommands[])(CLI::App&, int&) = {
     AddDrive,                         // playing
     AddNew,   AddPicture, AddRender,  // making
+    AddVerify,                        // checking
     AddBench,                         // measuring
 };
 

@@ -18,6 +18,7 @@ void AddDrive(CLI::App& belt, int& exit_code);
 void AddNew(CLI::App& belt, int& exit_code);
 void AddPicture(CLI::App& belt, int& exit_code);
 void AddRender(CLI::App& belt, int& exit_code);
+void AddVerify(CLI::App& belt, int& exit_code);
 void AddBench(CLI::App& belt, int& exit_code);
 
 }  // namespace quendle
