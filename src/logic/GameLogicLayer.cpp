@@ -126,6 +126,7 @@ void GameLogicLayer::Release() {
   m_ptrMusic.reset();
   if (std::shared_ptr<InputRecorder> tester = m_ptrTester.lock()) tester->Detach();
   m_ptrTester.reset();
+  walk_ = nullptr;
 }
 
 void GameLogicLayer::KillDrawTimer() {
