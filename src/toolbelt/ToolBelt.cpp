@@ -15,7 +15,7 @@ constexpr int kUsageError = 2;
 
 // In the order of the help, group by group.
 constexpr void (*kCommands[])(CLI::App&, int&) = {
-    AddDrive,                         // playing
+    AddDrive, AddReplay,              // playing
     AddNew,   AddPicture, AddRender,  // making
     AddBench,                         // measuring
 };

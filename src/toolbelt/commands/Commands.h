@@ -15,6 +15,7 @@ inline constexpr const char* kMaking = "Making";
 inline constexpr const char* kMeasuring = "Measuring";
 
 void AddDrive(CLI::App& belt, int& exit_code);
+void AddReplay(CLI::App& belt, int& exit_code);
 void AddNew(CLI::App& belt, int& exit_code);
 void AddPicture(CLI::App& belt, int& exit_code);
 void AddRender(CLI::App& belt, int& exit_code);
