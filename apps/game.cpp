@@ -2,6 +2,7 @@
 
 #include "backends/desktop/DesktopBackend.h"
 #include "backends/desktop/RunOnDesktop.h"
+#include "backends/files/ContentHash.h"
 #include "shell/Application.h"
 
 namespace {
@@ -13,6 +14,10 @@ constexpr std::int16_t kEdition = QUENDLE_EDITION;
 
 int Play(DesktopBackend& backend) {
   Application application(backend.GetPorts(), kEdition, backend.BaseDirectory());
+  if (backend.Tester()) {
+    application.SetTester({*backend.Tester(), backend.Seed(),
+                           [&backend] { return quendle::HashOfContent(backend.BaseDirectory()); }});
+  }
   application.Start();
   application.Deliver([&backend] { backend.Run(); });
   return application.GetStatus() == Application::Status::kFailed ? 1 : 0;

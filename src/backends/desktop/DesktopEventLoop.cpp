@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "backends/desktop/StepClock.h"
+
 namespace quendle {
 namespace {
 
@@ -73,11 +75,13 @@ bool IsOvertaken(const SDL_Event& event) {
 
 }  // namespace
 
+DesktopEventLoop::DesktopEventLoop(StepClock& clock)
+    : clock_(clock), steps_(&clock), timers_(clock) {}
+
 void DesktopEventLoop::Run(const std::function<bool()>& done) {
-  std::string fired;
   while (!done()) {
     if (HandleWaiting(done)) return;
-    if (timers_.FireNext(clock_.Monotonic(), fired)) continue;
+    if (FireDue()) continue;
     SettleAll();
     SDL_WaitEventTimeout(nullptr, SleepMilliseconds());
   }
@@ -112,6 +116,25 @@ void DesktopEventLoop::Dispatch(const SDL_Event& event) {
   }
 }
 
+bool DesktopEventLoop::FireDue() {
+  std::string fired;
+  return steps_ != nullptr ? FireDueExactly() : timers_.FireNext(clock_.Monotonic(), fired);
+}
+
+bool DesktopEventLoop::FireDueExactly() {
+  const Milliseconds now = steps_->Reachable();
+  Milliseconds due{0};
+  if (!timers_.NextDue(due) || due > now) {
+    steps_->AdvanceTo(now);
+    return false;
+  }
+  steps_->AdvanceTo(due);
+  // All that are due together: no input comes between them.
+  for (std::string fired; timers_.FireNext(steps_->Monotonic(), fired);) {
+  }
+  return true;
+}
+
 void DesktopEventLoop::SettleAll() {
   for (const auto& target : Targets()) target->Settle();
 }
@@ -119,7 +142,7 @@ void DesktopEventLoop::SettleAll() {
 int DesktopEventLoop::SleepMilliseconds() {
   Milliseconds due{0};
   if (!timers_.NextDue(due)) return kLongestSleep;
-  auto wait = (due - clock_.Monotonic()).count();
+  auto wait = (due - (steps_ != nullptr ? steps_->Reachable() : clock_.Monotonic())).count();
   return static_cast<int>(std::clamp<decltype(wait)>(wait, 0, kLongestSleep));
 }
 

@@ -20,6 +20,15 @@ GameOptions GameOptions::Parse(const std::string& program, int argc, const char*
   app.add_option("--content", options.content, "Folder of the game's content")
       ->check(CLI::ExistingDirectory);
   app.add_option("--user", options.user, "Folder for saved games and settings");
+  constexpr const char* kTesterInterval = "50";
+  std::int16_t interval = 0;
+  CLI::Option* tester =
+      app.add_option("--tester", interval,
+                     "Record or play user actions, with a tick every MS milliseconds (50)")
+          ->expected(0, 1)
+          ->default_str(kTesterInterval)
+          ->check(CLI::Range(1, 32767))
+          ->option_text("[MS]");
   app.add_flag("--version", options.version,
                "Tell build, libraries, drawing backend and folders, and end");
   try {
@@ -27,6 +36,7 @@ GameOptions GameOptions::Parse(const std::string& program, int argc, const char*
   } catch (const CLI::ParseError& error) {
     exit_code = app.exit(error) == 0 ? 0 : 2;
   }
+  if (tester->count() > 0) options.tester = interval;
   options.window.full_screen = !in_window;
   options.window.scale = modes.at(scale);
   return options;
