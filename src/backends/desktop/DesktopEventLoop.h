@@ -52,6 +52,7 @@ class DesktopEventLoop {
   void Dispatch(const SDL_Event& event);
   int SleepMilliseconds();
   std::vector<std::shared_ptr<SdlEventTarget>> Targets();
+  void AllowDrops();
   bool TakesInput(const SdlEventTarget& target) const;
 
   Clock& clock_;
