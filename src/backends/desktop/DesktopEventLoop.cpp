@@ -141,6 +141,16 @@ bool DesktopEventLoop::FireDueExactly() {
 
 void DesktopEventLoop::Settle() {
   for (const auto& target : Targets()) target->Settle();
+  AllowDrops();
+}
+
+// The library has one switch for all windows, and turning it costs a round of the window system.
+void DesktopEventLoop::AllowDrops() {
+  const bool wanted = std::ranges::any_of(Targets(), [this](const auto& target) {
+    return TakesInput(*target) && target->TakesDrops();
+  });
+  if (wanted == (SDL_EventState(SDL_DROPFILE, SDL_QUERY) == SDL_ENABLE)) return;
+  SDL_EventState(SDL_DROPFILE, wanted ? SDL_ENABLE : SDL_DISABLE);
 }
 
 std::uint32_t DesktopEventLoop::WindowInUse() {

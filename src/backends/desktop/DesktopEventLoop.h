@@ -59,6 +59,7 @@ class DesktopEventLoop {
   bool FireDueExactly();
   int SleepMilliseconds();
   std::vector<std::shared_ptr<SdlEventTarget>> Targets();
+  void AllowDrops();
   bool TakesInput(const SdlEventTarget& target) const;
 
   Clock& clock_;
