@@ -17,10 +17,10 @@ constexpr const char* kMan = "--man";
 
 // In the order of the help, group by group.
 constexpr void (*kCommands[])(CLI::App&, int&) = {
-    AddDrive,                         // playing
-    AddWalk,  AddRandom,  AddTree,    // checking
-    AddNew,   AddPicture, AddRender,  // making
-    AddBench,                         // measuring
+    AddDrive,  AddReplay,                       // playing
+    AddVerify, AddWalk,    AddRandom, AddTree,  // checking
+    AddNew,    AddPicture, AddRender,           // making
+    AddBench,                                   // measuring
 };
 
 constexpr const char* kFooter =

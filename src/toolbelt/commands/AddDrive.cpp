@@ -30,6 +30,12 @@ void AddDrive(CLI::App& belt, int& exit_code) {
   command->add_flag("--other-instance", options.other_instance, "Another instance runs already");
   command->add_option("--system", options.system_version, "Major version of the system")
       ->option_text("N");
+  command
+      ->add_option("--tester", options.tester,
+                   "Switch the recorder of user actions on, with a tick every MS milliseconds; it "
+                   "asks two questions at play")
+      ->check(CLI::Range(1, 32767))
+      ->option_text("MS");
   command->add_option("FILE", settings->file, "The commands; without it, standard input")
       ->check(CLI::ExistingFile);
   command->footer(
