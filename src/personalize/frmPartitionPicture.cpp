@@ -6,7 +6,6 @@
 #include "dialogs/FormLayout.h"
 #include "personalize/FaceCut.h"
 #include "personalize/PersonFiles.h"
-#include "personalize/ReachablePicture.h"
 #include "personalize/frmEditDoctorCursor.h"
 #include "personalize/frmSelectPicture.h"
 #include "platform/Boxes.h"
@@ -22,6 +21,9 @@ constexpr int kBarGap = 4;
 constexpr int kLineWidth = 3;
 constexpr Color kLineColor = PackColor(0xE6, 0x3C, 0x28);
 constexpr std::size_t kFewestPoints = 3;
+// Points of the outline are 16-bit twips, so they reach 2184 pixels into a photograph. One that
+// must be made smaller anyhow is brought to a size that is handy to work on.
+constexpr PictureLimit kReachable{2184, 1200};
 // A step of a scroll bar moves the photograph by one pixel, so that every pixel comes into view.
 constexpr int kScrollStep = kTwipsPerPixel;
 
@@ -50,7 +52,7 @@ frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
            {130, 50, 762, 74});
   AddLabel(form_, "lblHelp",
            "Click all the way round: the outline closes by itself. The bars move the photograph.",
-           {146, 74, 762, 98});
+           {130, 74, 762, 98});
   AddPicturePair(form_, 5, "undo", "Undo", {222, 520, 382, 572});
   AddPicturePair(form_, 13, "reset", "Start over", {398, 520, 558, 572});
   AddScroll(form_, "HScroll1", {}).visible = false;
@@ -63,19 +65,26 @@ frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
 
 frmPartitionPicture::~frmPartitionPicture() = default;
 
+void frmPartitionPicture::ReleasePhotograph() {
+  picture_.reset();
+  photograph_.reset();
+  Image().image.reset();
+  Image().visible = false;
+}
+
 void frmPartitionPicture::LoadImage(const std::string& path) {
   if (path.empty()) {
+    BackToSelection();
     Tell("Please choose a photograph first: press Browse.");
-    BackToSelection();
     return;
   }
-  LoadedPicture loaded = personalize_.loader.LoadPicture(path);
+  LoadedPicture loaded = personalize_.loader.LoadPicture(path, kReachable);
   if (loaded.picture == nullptr) {
-    Tell(loaded.problem);
     BackToSelection();
+    Tell(loaded.problem);
     return;
   }
-  picture_ = ReachablePicture(std::move(loaded.picture));
+  picture_ = std::move(loaded.picture);
   Gdi& gdi = personalize_.gdi;
   photograph_ = std::make_unique<MemoryBitmap>(gdi, gdi.CreatePictureBitmap(*picture_));
   Image().image = picture_;
@@ -123,7 +132,13 @@ void frmPartitionPicture::PartitionCommand(std::string_view command) {
   }
 }
 
+void frmPartitionPicture::CloseWindow() {
+  ReleasePhotograph();
+  WizardForm::CloseWindow();
+}
+
 void frmPartitionPicture::BackToSelection() {
+  ReleasePhotograph();
   SetShown(false);
   select_.Open();
 }

@@ -33,6 +33,7 @@ class frmSelectPicture : public WizardForm {
   void Browse();
   void TakePicture(const std::string& path);
   void ShowPreview(SharedPicture picture);
+  void OfferRemoval();
   void RemovePhotograph();
 
   std::string path_;  // of the chosen file; empty until one is chosen

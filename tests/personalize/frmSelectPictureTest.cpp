@@ -129,6 +129,26 @@ TEST_F(RemovingAPhotograph, IsAskedFirst) {
   EXPECT_TRUE(Written("face.bmp") == *ColorfulPicture({3, 3}));
 }
 
+TEST_F(RemovingAPhotograph, IsOfferedOnlyWhileThereIsOne) {
+  EXPECT_TRUE(At("lblRemove").visible);
+  host.Press("lblRemove");
+  EXPECT_FALSE(At("lblRemove").visible);
+  select.Open();
+  EXPECT_FALSE(At("lblRemove").visible);
+  PutPicture("doctor.bmp", *ColorfulPicture({4, 4}));
+  select.Open();
+  EXPECT_TRUE(At("lblRemove").visible) << "one of the two is enough";
+}
+
+TEST_F(RemovingAPhotograph, OfADamagedPictureIsOfferedToo) {
+  host.Press("lblRemove");
+  files.Put(std::string(kFolder) + "face.bmp", "BM nonsense");
+  select.Open();
+  EXPECT_TRUE(At("lblRemove").visible);
+  EXPECT_TRUE(host.Press("lblRemove"));
+  EXPECT_TRUE(Written("face.bmp") == *ColorfulPicture({32, 32}));
+}
+
 TEST_F(frmSelectPictureTest, WithoutADrawnChildToComeBackNothingIsOffered) {
   EXPECT_FALSE(host.Press("lblRemove"));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -26,6 +27,12 @@ class DesktopEventLoop {
   // Runs until `done` holds; it is asked after every event and tick.
   void Run(const std::function<bool()>& done);
 
+  // Brings all that is seen up to date now, and not at the end of the event.
+  void Settle();
+  // Number of the window that takes input: the last one that stands alone, else the first there
+  // is; 0 without any.
+  std::uint32_t WindowInUse();
+
   // While it lives, input reaches one target alone.
   class Modal {
    public:
@@ -43,7 +50,6 @@ class DesktopEventLoop {
  private:
   bool HandleWaiting(const std::function<bool()>& done);
   void Dispatch(const SDL_Event& event);
-  void SettleAll();
   int SleepMilliseconds();
   std::vector<std::shared_ptr<SdlEventTarget>> Targets();
   bool TakesInput(const SdlEventTarget& target) const;
