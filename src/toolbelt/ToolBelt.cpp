@@ -15,8 +15,8 @@ constexpr int kUsageError = 2;
 
 // In the order of the help, group by group.
 constexpr void (*kCommands[])(CLI::App&, int&) = {
-    AddDrive,                          // playing
-    AddVerify,                         // checking
+    AddDrive,  AddReplay,              // playing
+    AddVerify, AddWalk,    AddTree,    // checking
     AddNew,    AddPicture, AddRender,  // making
     AddBench,                          // measuring
 };
