@@ -124,9 +124,9 @@ void GameLogicLayer::Release() {
   KillDrawTimer();
   DropBackBuffer();
   m_ptrMusic.reset();
+  walk_ = nullptr;
   if (std::shared_ptr<InputRecorder> tester = m_ptrTester.lock()) tester->Detach();
   m_ptrTester.reset();
-  walk_ = nullptr;
 }
 
 void GameLogicLayer::KillDrawTimer() {

@@ -13,6 +13,7 @@
 #include "platform/Ports.h"
 #include "shell/GameStarter.h"
 #include "shell/Globals.h"
+#include "shell/SpokenCaptions.h"
 #include "shell/TesterRun.h"
 
 namespace quendle {
@@ -64,6 +65,8 @@ class Application : private GameStarter {
   // Told to the game when it starts; may be null.
   void SetTracer(Tracer* tracer);
   void SetBlitWatcher(BlitWatcher* watcher);
+  // What is said; nothing before Play.
+  CaptionSource& Captions() { return captions_; }
 
  private:
   void OpenGameWindow() override;
@@ -76,6 +79,7 @@ class Application : private GameStarter {
   ContentFiles content_;
   std::unique_ptr<TandrelPrompt> prompt_;
   std::unique_ptr<Globals> globals_;
+  SpokenCaptions captions_{globals_};
   std::unique_ptr<Quendle_Game_Screen> screen_;
   std::optional<TesterOptions> tester_;
   Tracer* tracer_ = nullptr;

@@ -38,7 +38,12 @@ struct ReplayTest : testing::Test {
   std::string Replay(bool update = false) {
     std::ostringstream out;
     testing::internal::CaptureStderr();
-    exit_code = RunReplay({content, Path("tour.txt"), update}, out);
+    try {
+      exit_code = RunReplay({content, Path("tour.txt"), update}, out);
+    } catch (...) {
+      testing::internal::GetCapturedStderr();
+      throw;
+    }
     notes = testing::internal::GetCapturedStderr();
     return out.str();
   }

@@ -39,6 +39,8 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
       text_(fonts_),
       painter_(text_),
       forms_(loop_, painter_),
+      caption_setting_(files_, folders_.content),
+      captions_(text_, clock_, caption_setting_),
       window_(
           std::make_shared<DesktopWindow>(options.window, screen_, gdi_.WindowContext(), painter_)),
       picture_saver_(files_),
@@ -53,6 +55,8 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
   // What is heard drifts from any clock: a recording must not depend on it.
   if (tester_) filter_graphs_.GoByClockAlone();
   loop_.Add(window_);
+  captions_.SetOn(options.captions.value_or(caption_setting_.Read()));
+  window_->AddLayer(captions_);
   window_->BeforeShow([this] { forms_.ShowFormInView(); });
 }
 

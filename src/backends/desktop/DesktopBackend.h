@@ -5,6 +5,8 @@
 #include <string>
 
 #include "backends/codecs/PictureDecoderLoader.h"
+#include "backends/desktop/CaptionLayer.h"
+#include "backends/desktop/CaptionSetting.h"
 #include "backends/desktop/DesktopBoxes.h"
 #include "backends/desktop/DesktopClock.h"
 #include "backends/desktop/DesktopEventLoop.h"
@@ -51,6 +53,8 @@ class DesktopBackend {
   std::uint64_t Seed() const { return seed_; }
   // Without content or a font: tells the player in a box and gives false.
   bool TellWhatIsMissing(const std::string& product);
+  // What is said in the game, for captions.
+  void SetCaptionSource(CaptionSource* source) { captions_.SetSource(source); }
   // Runs the event loop for ever: ProcessEnds and FatalError leave through it.
   void Run();
   // Shows a fatal error; the game window may stand or not.
@@ -79,6 +83,8 @@ class DesktopBackend {
   TextPainter text_;
   FormPainter painter_;
   DesktopFormHost forms_;
+  CaptionSetting caption_setting_;
+  CaptionLayer captions_;
   std::shared_ptr<DesktopWindow> window_;
   PictureDecoderLoader picture_loader_;
   BitmapPictureSaver picture_saver_;

@@ -138,7 +138,9 @@ bool DesktopBoxes::Stand(FormInput& input, const std::function<bool()>& done,
     loop_.Run(done);
     return true;
   }
-  auto own = std::make_shared<FormWindow>(painter_);
+  // A form that was put on screen in the same event comes first, or it would cover the box.
+  loop_.Settle();
+  auto own = std::make_shared<FormWindow>(painter_, loop_.WindowInUse());
   if (!own->Show(&input)) return false;
   loop_.Add(own);
   DesktopEventLoop::Modal modal(loop_, *own);

@@ -35,13 +35,16 @@ Uint32 WindowOf(const SDL_Event& event) {
   }
 }
 
+bool IsTyped(const SDL_Event& event) {
+  return event.type == SDL_KEYDOWN || event.type == SDL_KEYUP || event.type == SDL_TEXTINPUT;
+}
+
 bool IsInput(const SDL_Event& event) {
   if (event.type == SDL_WINDOWEVENT) {
     return event.window.event == SDL_WINDOWEVENT_CLOSE ||
            event.window.event == SDL_WINDOWEVENT_LEAVE;
   }
-  return event.type == SDL_KEYDOWN || event.type == SDL_KEYUP || event.type == SDL_TEXTINPUT ||
-         event.type == SDL_MOUSEMOTION || event.type == SDL_MOUSEBUTTONDOWN ||
+  return IsTyped(event) || event.type == SDL_MOUSEMOTION || event.type == SDL_MOUSEBUTTONDOWN ||
          event.type == SDL_MOUSEBUTTONUP || event.type == SDL_MOUSEWHEEL ||
          event.type == SDL_DROPFILE;
 }
@@ -82,7 +85,7 @@ void DesktopEventLoop::Run(const std::function<bool()>& done) {
   while (!done()) {
     if (HandleWaiting(done)) return;
     if (FireDue()) continue;
-    SettleAll();
+    Settle();
     SDL_WaitEventTimeout(nullptr, SleepMilliseconds());
   }
 }
@@ -108,7 +111,8 @@ void DesktopEventLoop::Dispatch(const SDL_Event& event) {
     }
     return;
   }
-  Uint32 window = WindowOf(event);
+  // A press behind a box may have given the keyboard to the window there.
+  Uint32 window = IsTyped(event) && !modal_.empty() ? modal_.back()->WindowId() : WindowOf(event);
   for (const auto& target : targets) {
     if (window != 0 && target->WindowId() != window) continue;
     if (IsUpkeep(event)) target->HandleUpkeep(event);
@@ -135,8 +139,25 @@ bool DesktopEventLoop::FireDueExactly() {
   return true;
 }
 
-void DesktopEventLoop::SettleAll() {
+void DesktopEventLoop::Settle() {
   for (const auto& target : Targets()) target->Settle();
+  AllowDrops();
+}
+
+// The library has one switch for all windows, and turning it costs a round of the window system.
+void DesktopEventLoop::AllowDrops() {
+  const bool wanted = std::ranges::any_of(Targets(), [this](const auto& target) {
+    return TakesInput(*target) && target->TakesDrops();
+  });
+  if (wanted == (SDL_EventState(SDL_DROPFILE, SDL_QUERY) == SDL_ENABLE)) return;
+  SDL_EventState(SDL_DROPFILE, wanted ? SDL_ENABLE : SDL_DISABLE);
+}
+
+std::uint32_t DesktopEventLoop::WindowInUse() {
+  for (const auto& target : Targets()) {
+    if (TakesInput(*target) && target->WindowId() != 0) return target->WindowId();
+  }
+  return 0;
 }
 
 int DesktopEventLoop::SleepMilliseconds() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -30,6 +31,12 @@ class DesktopEventLoop {
   // Runs until `done` holds; it is asked after every event and tick.
   void Run(const std::function<bool()>& done);
 
+  // Brings all that is seen up to date now, and not at the end of the event.
+  void Settle();
+  // Number of the window that takes input: the last one that stands alone, else the first there
+  // is; 0 without any.
+  std::uint32_t WindowInUse();
+
   // While it lives, input reaches one target alone.
   class Modal {
    public:
@@ -50,9 +57,9 @@ class DesktopEventLoop {
   // Fires what is due next; false when nothing is.
   bool FireDue();
   bool FireDueExactly();
-  void SettleAll();
   int SleepMilliseconds();
   std::vector<std::shared_ptr<SdlEventTarget>> Targets();
+  void AllowDrops();
   bool TakesInput(const SdlEventTarget& target) const;
 
   Clock& clock_;

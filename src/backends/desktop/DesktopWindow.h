@@ -2,7 +2,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "backends/desktop/DesktopEventLoop.h"
 #include "backends/desktop/FormInput.h"
@@ -40,6 +42,8 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   // Puts a form over the frame, or takes it away with a null one. `input` outlives its showing.
   void SetOverlay(FormInput* input);
   FormInput* Overlay() { return overlay_; }
+  // Something that lies over the frame, below a form; the last one on top. It outlives the window.
+  void AddLayer(FrameLayer& layer) { layers_.push_back(&layer); }
   std::string DrawingBackend() const;
 
   void Show(GameWindowEvents& events) override;
@@ -71,6 +75,8 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   void OnPresented();
   void Upload();
   void Draw();
+  bool UpdateLayers();
+  bool SendToLayers(const SDL_Event& event);
   void ToggleFullScreen();
   void SendToGame(const SDL_Event& event);
   void Activate(bool active);
@@ -101,6 +107,9 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   bool active_ = true;  // the game takes itself for active until it is told otherwise
   bool pointer_wanted_ = true;
   bool pointer_on_frame_ = true;
+  std::optional<Point> pointer_;  // on the frame
+  std::vector<FrameLayer*> layers_;
+  bool layers_lost_ = true;
 };
 
 }  // namespace quendle

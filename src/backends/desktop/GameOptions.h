@@ -13,6 +13,7 @@ struct GameOptions {
   WindowOptions window;
   std::string content;  // folder of the content; empty: where content is looked for
   std::string user;     // folder that takes what the game writes; empty: the content, if it can
+  std::optional<bool> captions;  // show captions in this run; nothing: as last chosen in the game
   bool version = false;
   std::optional<std::int16_t> tester;  // interval of the recorder in milliseconds; none: it is off
 

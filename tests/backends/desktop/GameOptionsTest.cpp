@@ -44,6 +44,12 @@ TEST(GameOptions, TheRecorderTakesAnIntervalOrItsOwn) {
   EXPECT_EQ(Parse({"--tester", "--window"}).options.tester, 50);
 }
 
+TEST(GameOptions, CaptionsAreAsLastChosenUnlessAWordSaysOtherwise) {
+  EXPECT_EQ(Parse({}).options.captions, std::nullopt);
+  EXPECT_EQ(Parse({"--captions"}).options.captions, true);
+  EXPECT_EQ(Parse({"--no-captions"}).options.captions, false);
+}
+
 TEST(GameOptions, AnUnknownWordIsAUsageError) {
   testing::internal::CaptureStderr();
   EXPECT_EQ(Parse({"--nonsense"}).exit_code, 2);
