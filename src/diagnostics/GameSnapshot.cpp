@@ -112,7 +112,7 @@ StateSnapshot::Fields FieldsOfGame(const GameLogicLayer& logic, const ObjectWorl
   inspector.Field("help", HelpOf(logic.Help()));
   inspector.Flag("gameReset", logic.GameReset());
   inspector.Field("frameCounter", logic.FrameCounter());
-  inspector.Field("difficulty", settings.DifficultyLevel);
+  inspector.Field("difficulty", FoldCase(settings.DifficultyLevel));  // its case means nothing
   inspector.Flag("safeMode", settings.SafeMode);
   inspector.Flag("personalize", settings.PersonalizeOn);
   inspector.Flag("music", MusicPlays(logic));

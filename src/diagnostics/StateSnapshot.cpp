@@ -26,6 +26,26 @@ std::optional<std::string> TextOf(const std::string* text) {
   return text == nullptr ? std::nullopt : std::optional(*text);
 }
 
+bool IsSame(const StateSnapshot::Fields& a, const StateSnapshot::Fields& b,
+            const std::string& name) {
+  const std::string* in_a = Find(a, name);
+  const std::string* in_b = Find(b, name);
+  return in_a != nullptr && in_b != nullptr && *in_a == *in_b;
+}
+
+std::optional<StateDifference> FirstDifference(const std::string& path,
+                                               const StateSnapshot::Fields& expected,
+                                               const StateSnapshot::Fields& found) {
+  std::optional<std::string> first;
+  for (const std::string& name : KeysOfBoth(expected, found)) {
+    // Another screen in view tells more than all that follows from it.
+    const bool telling = path == StateSnapshot::kGame && name == StateSnapshot::kScreen;
+    if ((!first || telling) && !IsSame(expected, found, name)) first = name;
+  }
+  if (!first) return std::nullopt;
+  return StateDifference{path, *first, TextOf(Find(expected, *first)), TextOf(Find(found, *first))};
+}
+
 }  // namespace
 
 std::string HashOfSnapshot(const StateSnapshot& snapshot) {
@@ -44,12 +64,7 @@ std::optional<StateDifference> FirstDifference(const StateSnapshot& expected,
     const StateSnapshot::Fields* got = Find(found.objects, path);
     if (wanted == nullptr) return StateDifference{path, "", std::nullopt, "there"};
     if (got == nullptr) return StateDifference{path, "", "there", std::nullopt};
-    for (const std::string& name : KeysOfBoth(*wanted, *got)) {
-      const std::string* before = Find(*wanted, name);
-      const std::string* now = Find(*got, name);
-      if (before != nullptr && now != nullptr && *before == *now) continue;
-      return StateDifference{path, name, TextOf(before), TextOf(now)};
-    }
+    if (auto difference = FirstDifference(path, *wanted, *got)) return difference;
   }
   return std::nullopt;
 }

@@ -13,6 +13,7 @@ struct StateSnapshot {
   std::map<std::string, Fields> objects;
 
   static constexpr const char* kGame = "(game)";
+  static constexpr const char* kScreen = "screen";
 
   friend bool operator==(const StateSnapshot&, const StateSnapshot&) = default;
 };
@@ -21,8 +22,8 @@ struct StateSnapshot {
 std::string HashOfSnapshot(const StateSnapshot& snapshot);
 
 // Where two snapshots differ first: in the game, else in the object whose path comes first, and
-// there in the field whose name comes first. `field` is empty when one of them lacks the object,
-// and a text is absent where a side has no such object or field.
+// there in the field whose name comes first (of the game's, the screen in view). `field` is empty
+// when one of them lacks the object, and a text is absent where a side has no such object or field.
 struct StateDifference {
   std::string object;
   std::string field;

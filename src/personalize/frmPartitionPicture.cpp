@@ -30,10 +30,11 @@ constexpr int kScrollStep = kTwipsPerPixel;
 // How far the picture begins inside a view that is wider than it.
 int Centred(int view, int picture) { return std::max(view - picture, 0) / 2; }
 
-void SetBar(Control& bar, bool shown, int beyond, const Rect& area) {
+// Faces are mostly found in the middle and a little above it: there a photograph begins.
+void SetBar(Control& bar, bool shown, int beyond, int part, const Rect& area) {
   bar.visible = shown;
   bar.maximum = shown ? beyond : 0;
-  bar.value = 0;
+  bar.value = bar.maximum / part;
   bar.area = area;
 }
 
@@ -222,9 +223,9 @@ void frmPartitionPicture::FitScrollBars() {
   }
   if (standing) view_.right -= room;
   if (lying) view_.bottom -= room;
-  SetBar(*form_.Find("HScroll1"), lying, size.width - view_.Width(),
+  SetBar(*form_.Find("HScroll1"), lying, size.width - view_.Width(), 2,
          {view_.left, view_.bottom + kBarGap, view_.right, view_.bottom + room});
-  SetBar(*form_.Find("VScroll1"), standing, size.height - view_.Height(),
+  SetBar(*form_.Find("VScroll1"), standing, size.height - view_.Height(), 3,
          {view_.right + kBarGap, view_.top, view_.right + room, view_.bottom});
   ScrollTo();
 }

@@ -20,6 +20,7 @@ class frmSelectPicture : public WizardForm {
   void Open();
 
   void Press(Control& control, Point at) override;
+  bool TakesDrops() const override { return true; }
   // Takes the file as if it had been chosen.
   void Drop(const std::string& native_path) override;
 

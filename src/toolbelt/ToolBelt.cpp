@@ -15,9 +15,10 @@ constexpr int kUsageError = 2;
 
 // In the order of the help, group by group.
 constexpr void (*kCommands[])(CLI::App&, int&) = {
-    AddDrive,                         // playing
-    AddNew,   AddPicture, AddRender,  // making
-    AddBench,                         // measuring
+    AddDrive,  AddReplay,              // playing
+    AddVerify, AddWalk,    AddTree,    // checking
+    AddNew,    AddPicture, AddRender,  // making
+    AddBench,                          // measuring
 };
 
 constexpr const char* kFooter =

@@ -209,7 +209,13 @@ TEST_F(frmPartitionPictureTest, OutlineAndPhotographScrollTogetherAndEveryPixelI
   Click({{30, 40}, {80, 20}});
   Control& across = At("HScroll1");
   ASSERT_TRUE(across.visible);
+  EXPECT_EQ(across.value, across.maximum / 2) << "the middle is seen first";
+  EXPECT_EQ(At("VScroll1").value, At("VScroll1").maximum / 3);
+  host.Set("HScroll1", 0, 0);
+  host.Set("VScroll1", 0, 0);
   const Rect before = At("Image1").area;
+  EXPECT_EQ(before.left, At("Image1").clip.left) << "the first column is seen";
+  EXPECT_EQ(before.top, At("Image1").clip.top);
   const Rect line = At("Line1", 2).area;
   const int right = across.maximum;
   ASSERT_TRUE(host.Set("HScroll1", 0, right));

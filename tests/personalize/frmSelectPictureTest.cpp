@@ -76,6 +76,17 @@ TEST_F(frmSelectPictureTest, ADroppedPhotographIsTakenLikeAChosenOne) {
   EXPECT_EQ(InView(), "frmPartitionPicture");
 }
 
+TEST_F(frmSelectPictureTest, NothingCanBeDroppedOnTheOtherStages) {
+  ToPartition();
+  const std::size_t asked = loader.asked.size();
+  EXPECT_FALSE(host.Drop("/photos/child.jpg"));
+  Click({{1, 1}, {20, 2}, {3, 30}});
+  PressPicture(3);
+  ASSERT_EQ(InView(), "frmEditDoctorCursor");
+  EXPECT_FALSE(host.Drop("/photos/child.jpg"));
+  EXPECT_EQ(loader.asked.size(), asked);
+}
+
 TEST_F(frmSelectPictureTest, GoingBackFromStage2ShowsTheSamePreview) {
   ToPartition();
   PressPicture(1);

@@ -94,6 +94,10 @@ void DesktopWindow::Close() {
   if (SDL_WasInit(SDL_INIT_VIDEO) != 0) SDL_ShowCursor(SDL_ENABLE);
 }
 
+void DesktopWindow::CloseByPlayer() {
+  if (events_ != nullptr) events_->Unload();
+}
+
 void DesktopWindow::SetCaption(const std::string& caption) {
   caption_ = caption;
   if (window_ != nullptr) SDL_SetWindowTitle(window_.get(), ToUtf8(caption).c_str());

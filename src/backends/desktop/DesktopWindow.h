@@ -56,6 +56,8 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   void Beep() override;
   Point ClientToScreen() override { return {0, 0}; }
   void Close() override;
+  // The player wants the game to end; what that throws passes through.
+  void CloseByPlayer();
 
   std::uint32_t WindowId() const override;
   void HandleInput(const SDL_Event& event) override;

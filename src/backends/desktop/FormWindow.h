@@ -37,6 +37,7 @@ class FormWindow : public SdlEventTarget {
   void HandleUpkeep(const SDL_Event& event) override;
   void Settle() override;
   void HandleQuit() override;
+  bool TakesDrops() const override { return input_ != nullptr && input_->TakesDrops(); }
 
  private:
   struct DestroyWindow {

@@ -26,13 +26,16 @@ void AddDrive(CLI::App& belt, int& exit_code) {
                    "Where everything is written; without it, the content tree")
       ->option_text("DIR");
   AddEditionAndSeed(*command, options);
-  command->add_option("--path", *path, "directdraw, or window: the first drawing path fails")
-      ->check(CLI::IsMember({"directdraw", "window"}))
-      ->option_text("PATH")
-      ->capture_default_str();
+  AddDrawingPath(*command, *path);
   command->add_flag("--other-instance", options.other_instance, "Another instance runs already");
   command->add_option("--system", options.system_version, "Major version of the system")
       ->option_text("N");
+  command
+      ->add_option("--tester", options.tester,
+                   "Switch the recorder of user actions on, with a tick every MS milliseconds; it "
+                   "asks two questions at play")
+      ->check(CLI::Range(1, 32767))
+      ->option_text("MS");
   command->add_option("FILE", settings->file, "The commands; without it, standard input")
       ->check(CLI::ExistingFile);
   command->footer(
@@ -41,7 +44,7 @@ void AddDrive(CLI::App& belt, int& exit_code) {
              {{0, "all commands were read; a refused one is told in its answer"},
               {3, "the game ended fatally"}}));
   command->callback([settings, path, &exit_code] {
-    settings->options.window_path = *path == "window";
+    settings->options.window_path = *path == kWindowPath;
     exit_code = RunDrive(*settings);
   });
 }

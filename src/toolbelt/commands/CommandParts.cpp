@@ -16,6 +16,13 @@ CLI::Option* AddContentTree(CLI::App& command, const char* name, std::string& fo
       ->option_text("DIR");
 }
 
+void AddDifficulty(CLI::App& command, std::string& difficulty) {
+  command.add_option("--difficulty", difficulty, "The answer to the game's first question")
+      ->transform(CLI::IsMember({"Easy", "Normal", "Hard"}, CLI::ignore_case))
+      ->option_text("Easy|Normal|Hard")
+      ->capture_default_str();
+}
+
 void AddEditionAndSeed(CLI::App& command, DriveOptions& options) {
   command.add_option("--edition", options.edition, "2 is the product, 1 its sibling")
       ->check(CLI::IsMember({1, 2}))
@@ -23,6 +30,13 @@ void AddEditionAndSeed(CLI::App& command, DriveOptions& options) {
       ->capture_default_str();
   command.add_option("--seed", options.seed, "Where chance begins")
       ->option_text("N")
+      ->capture_default_str();
+}
+
+void AddDrawingPath(CLI::App& command, std::string& path) {
+  command.add_option("--path", path, "directdraw, or window: the first drawing path fails")
+      ->check(CLI::IsMember({"directdraw", kWindowPath}))
+      ->option_text("PATH")
       ->capture_default_str();
 }
 

@@ -15,8 +15,15 @@ CLI::App* AddCommand(CLI::App& belt, const char* group, const char* name, const 
 // The option or the word that names the content tree: a folder that is there.
 CLI::Option* AddContentTree(CLI::App& command, const char* name, std::string& folder);
 
+// --difficulty: Easy, Normal or Hard; case is ignored.
+void AddDifficulty(CLI::App& command, std::string& difficulty);
+
 // How the game is started: --edition and --seed.
 void AddEditionAndSeed(CLI::App& command, DriveOptions& options);
+
+// --path: which drawing path is used.
+inline constexpr const char* kWindowPath = "window";
+void AddDrawingPath(CLI::App& command, std::string& path);
 
 // One way a command can end.
 struct ExitCode {

@@ -15,9 +15,13 @@ inline constexpr const char* kMaking = "Making";
 inline constexpr const char* kMeasuring = "Measuring";
 
 void AddDrive(CLI::App& belt, int& exit_code);
+void AddWalk(CLI::App& belt, int& exit_code);
+void AddTree(CLI::App& belt, int& exit_code);
+void AddReplay(CLI::App& belt, int& exit_code);
 void AddNew(CLI::App& belt, int& exit_code);
 void AddPicture(CLI::App& belt, int& exit_code);
 void AddRender(CLI::App& belt, int& exit_code);
+void AddVerify(CLI::App& belt, int& exit_code);
 void AddBench(CLI::App& belt, int& exit_code);
 
 }  // namespace quendle

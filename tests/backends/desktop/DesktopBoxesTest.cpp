@@ -18,6 +18,7 @@ class NoPictures : public PictureLoader {
 
 class DroppedFiles : public FormEvents {
  public:
+  bool TakesDrops() const override { return welcome; }
   void Drop(const std::string& native_path) override { paths.push_back(native_path); }
   void PointerOverForm() override {}
   void PointerOver(Control&) override {}
@@ -26,6 +27,7 @@ class DroppedFiles : public FormEvents {
   void QueryClose() override {}
   std::vector<std::string> paths;
   int keys = 0;
+  bool welcome = true;
 };
 
 // Runs on the library's driver without a display, with the fonts of the system.
@@ -149,6 +151,26 @@ TEST_F(DesktopBoxesTest, AFileDroppedOnAFormReachesIt) {
   DropOn(host_window_, "/photos/child.jpg");
   Pump();
   EXPECT_EQ(events_.paths, (std::vector<std::string>{"/photos/child.jpg"}));
+}
+
+TEST_F(DesktopBoxesTest, WindowsShowThatFilesMayBeDroppedOnlyWhereAFormTakesThem) {
+  const auto accepted = [] { return SDL_EventState(SDL_DROPFILE, SDL_QUERY) == SDL_ENABLE; };
+  EXPECT_TRUE(accepted());
+  bool meanwhile = true;
+  WhileABoxStands([&] {
+    loop_.Settle();
+    meanwhile = accepted();
+  });
+  EXPECT_FALSE(meanwhile) << "a message takes none";
+  Pump();
+  EXPECT_TRUE(accepted());
+  events_.welcome = false;
+  Pump();
+  EXPECT_FALSE(accepted());
+  DropOn(host_window_, "/photos/child.jpg");
+  Pump();
+  EXPECT_TRUE(events_.paths.empty());
+  EXPECT_EQ(SDL_EventState(SDL_DROPTEXT, SDL_QUERY), SDL_DISABLE);
 }
 
 TEST_F(DesktopBoxesTest, AFileDroppedOnAFormBehindABoxIsLeftAlone) {
