@@ -110,6 +110,8 @@ def shooter_room():
     out += flat("M-10,470Q200,420 400,452T810,440V610H-10Z", light(GREEN, 0.35)) + stroke("M-10,470Q200,420 400,452T810,440", OUTLINE, 4)
     for x in range(20, 800, 46):
         out += stroke(f"M{x},{506 + x * 7 % 60}l6,-16", shade(GREEN, 0.3), 4)
+    for x, y, colour, size in ((46, 498, YELLOW, 0.8), (132, 484, WHITE, 0.7), (236, 474, PINK, 0.8), (342, 484, YELLOW, 0.7), (446, 496, CORAL, 0.8), (522, 500, WHITE, 0.7), (772, 490, PINK, 0.7)):
+        out += flower(x, y, colour, size)
     return out + shadow(660, 470, 84, 10) + move(dog("sad", "cut"), 540, 182)
 
 
