@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "backends/desktop/StepClock.h"
+
 namespace quendle {
 namespace {
 
@@ -76,11 +78,13 @@ bool IsOvertaken(const SDL_Event& event) {
 
 }  // namespace
 
+DesktopEventLoop::DesktopEventLoop(StepClock& clock)
+    : clock_(clock), steps_(&clock), timers_(clock) {}
+
 void DesktopEventLoop::Run(const std::function<bool()>& done) {
-  std::string fired;
   while (!done()) {
     if (HandleWaiting(done)) return;
-    if (timers_.FireNext(clock_.Monotonic(), fired)) continue;
+    if (FireDue()) continue;
     Settle();
     SDL_WaitEventTimeout(nullptr, SleepMilliseconds());
   }
@@ -116,6 +120,25 @@ void DesktopEventLoop::Dispatch(const SDL_Event& event) {
   }
 }
 
+bool DesktopEventLoop::FireDue() {
+  std::string fired;
+  return steps_ != nullptr ? FireDueExactly() : timers_.FireNext(clock_.Monotonic(), fired);
+}
+
+bool DesktopEventLoop::FireDueExactly() {
+  const Milliseconds now = steps_->Reachable();
+  Milliseconds due{0};
+  if (!timers_.NextDue(due) || due > now) {
+    steps_->AdvanceTo(now);
+    return false;
+  }
+  steps_->AdvanceTo(due);
+  // All that are due together: no input comes between them.
+  for (std::string fired; timers_.FireNext(steps_->Monotonic(), fired);) {
+  }
+  return true;
+}
+
 void DesktopEventLoop::Settle() {
   for (const auto& target : Targets()) target->Settle();
   AllowDrops();
@@ -140,7 +163,7 @@ std::uint32_t DesktopEventLoop::WindowInUse() {
 int DesktopEventLoop::SleepMilliseconds() {
   Milliseconds due{0};
   if (!timers_.NextDue(due)) return kLongestSleep;
-  auto wait = (due - clock_.Monotonic()).count();
+  auto wait = (due - (steps_ != nullptr ? steps_->Reachable() : clock_.Monotonic())).count();
   return static_cast<int>(std::clamp<decltype(wait)>(wait, 0, kLongestSleep));
 }
 

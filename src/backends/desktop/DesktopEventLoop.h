@@ -11,6 +11,8 @@
 
 namespace quendle {
 
+class StepClock;
+
 // The program's one loop, on one thread: input first, then one due tick, then sleep until either
 // comes. It runs nested while a box stands. Engine code runs only from here, never inside a
 // callback of a library, so its exceptions leave through Run.
@@ -18,6 +20,8 @@ class DesktopEventLoop {
  public:
   // `clock` outlives the loop.
   explicit DesktopEventLoop(Clock& clock) : clock_(clock), timers_(clock) {}
+  // On a clock that moves only from here: ticks come exactly when they are due.
+  explicit DesktopEventLoop(StepClock& clock);
 
   TimerService& Timers() { return timers_; }
 
@@ -50,12 +54,16 @@ class DesktopEventLoop {
  private:
   bool HandleWaiting(const std::function<bool()>& done);
   void Dispatch(const SDL_Event& event);
+  // Fires what is due next; false when nothing is.
+  bool FireDue();
+  bool FireDueExactly();
   int SleepMilliseconds();
   std::vector<std::shared_ptr<SdlEventTarget>> Targets();
   void AllowDrops();
   bool TakesInput(const SdlEventTarget& target) const;
 
   Clock& clock_;
+  StepClock* steps_ = nullptr;  // clock_, when it is one that moves only from here
   TimerQueue timers_;
   std::vector<std::weak_ptr<SdlEventTarget>> targets_;
   std::vector<SdlEventTarget*> modal_;
