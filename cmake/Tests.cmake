@@ -65,4 +65,10 @@ function(quendle_scenarios)
     set_tests_properties(scenario.${name} PROPERTIES
       TIMEOUT 300 LABELS scenario ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
   endforeach()
+  add_test(NAME scenario.photograph_stays
+           COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/scenarios/photograph_stays.py
+                   $<TARGET_FILE:quendle> ${QUENDLE_CONTENT_DIR})
+  set_tests_properties(scenario.photograph_stays PROPERTIES
+    TIMEOUT 300 LABELS scenario SKIP_RETURN_CODE 77
+    ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
 endfunction()

@@ -7,7 +7,6 @@ namespace quendle {
 namespace {
 
 // The geometry of the bar, in pixels.
-constexpr int kBarTop = 500;
 constexpr int kFirstSlot = 60;
 constexpr int kSlotWidth = 85;
 constexpr int kLeftArrow = 15;
@@ -21,7 +20,7 @@ bool IsTool(const GameObjectInterface& child) { return EqualsNoCase(child.Object
 
 void Show(GameObjectInterface& child, int x) {
   child.Setxpos(ToInt16(x, "xpos of a tool"));
-  child.Setypos(kBarTop);
+  child.Setypos(ScreenObject::kBarTop);
   child.SetVisible(true);
 }
 

@@ -12,6 +12,7 @@ namespace quendle {
 class ScreenObject : public ForwardingObject {
  public:
   static constexpr std::size_t kToolLimit = 12;  // counts all children of the bar
+  static constexpr int kBarTop = 500;            // y of its tools on the frame
 
   using ForwardingObject::ForwardingObject;
 

@@ -147,4 +147,9 @@ void ForwardingObject::LoadMemento(const GameObjectMemento& memento) {
 }
 void ForwardingObject::Verify() { m_ptrGameObject->Verify(); }
 
+GameObject* InnerObject(GameObjectInterface& object) {
+  if (auto* forwarding = dynamic_cast<ForwardingObject*>(&object)) return &forwarding->Inner();
+  return dynamic_cast<GameObject*>(&object);
+}
+
 }  // namespace quendle

@@ -87,4 +87,7 @@ class ForwardingObject : public GameObjectInterface, public Inspectable {
   std::unique_ptr<GameObject> m_ptrGameObject;
 };
 
+// The object behind all forwarding, for tools; null for a class that has none.
+GameObject* InnerObject(GameObjectInterface& object);
+
 }  // namespace quendle

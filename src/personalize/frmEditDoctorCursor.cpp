@@ -85,8 +85,14 @@ void frmEditDoctorCursor::Previous() {
   partition_.ResetLines();
 }
 
+void frmEditDoctorCursor::CloseWindow() {
+  partition_.ReleasePhotograph();
+  WizardForm::CloseWindow();
+}
+
 void frmEditDoctorCursor::Next() {
   SavePersonPicture(personalize_, kDoctorFile, canvas_->Read());
+  partition_.ReleasePhotograph();
   SetShown(false);
   if (!done_) done_ = std::make_unique<frmDone>(services_, personalize_.prompt);
   done_->Show();

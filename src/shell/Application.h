@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "base/ContentFiles.h"
 #include "base/FatalError.h"
@@ -11,6 +13,8 @@
 #include "platform/Ports.h"
 #include "shell/GameStarter.h"
 #include "shell/Globals.h"
+#include "shell/SpokenCaptions.h"
+#include "shell/TesterRun.h"
 
 namespace quendle {
 
@@ -56,9 +60,13 @@ class Application : private GameStarter {
   TandrelPrompt& Prompt() { return *prompt_; }
   // The worlds of the game run; null before Play.
   Globals* Game() { return globals_.get(); }
+  // Switches the recorder of user actions on; before Play.
+  void SetTester(TesterOptions options) { tester_ = std::move(options); }
   // Told to the game when it starts; may be null.
   void SetTracer(Tracer* tracer);
   void SetBlitWatcher(BlitWatcher* watcher);
+  // What is said; nothing before Play.
+  CaptionSource& Captions() { return captions_; }
 
  private:
   void OpenGameWindow() override;
@@ -71,7 +79,9 @@ class Application : private GameStarter {
   ContentFiles content_;
   std::unique_ptr<TandrelPrompt> prompt_;
   std::unique_ptr<Globals> globals_;
+  SpokenCaptions captions_{globals_};
   std::unique_ptr<Quendle_Game_Screen> screen_;
+  std::optional<TesterOptions> tester_;
   Tracer* tracer_ = nullptr;
   BlitWatcher* blit_watcher_ = nullptr;
   Status status_ = Status::kRunning;

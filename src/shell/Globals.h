@@ -14,6 +14,7 @@
 namespace quendle {
 
 class GameLogicLayer;
+class TesterRun;
 class TestingObject;
 
 // Everything that one game run shares, each world on the one below. Registries are created empty.
@@ -31,6 +32,7 @@ struct Globals {
   ObjectWorld objects;
   std::unique_ptr<TestingObject> EventLog;
   std::shared_ptr<GameLogicLayer> GameLogic;  // null before it is created and after its end
+  std::unique_ptr<TesterRun> Tester;          // null unless the recorder is switched on
 };
 
 }  // namespace quendle

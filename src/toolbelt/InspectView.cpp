@@ -7,7 +7,7 @@
 #include "media/MediaWorld.h"
 #include "media/SoundState.h"
 #include "media/SplineState.h"
-#include "object/GameObject.h"
+#include "object/ForwardingObject.h"
 #include "script/ScriptState.h"
 #include "toolbelt/Arguments.h"
 #include "toolbelt/DriveSession.h"

@@ -58,11 +58,6 @@ Json DescribeWithoutChildren(GameObjectInterface& object) {
 
 }  // namespace
 
-GameObject* InnerObject(GameObjectInterface& object) {
-  if (auto* forwarding = dynamic_cast<ForwardingObject*>(&object)) return &forwarding->Inner();
-  return dynamic_cast<GameObject*>(&object);
-}
-
 Json DescribeObject(GameObjectInterface& object) {
   Json fields = DescribeWithoutChildren(object);
   Json names = Json::array();

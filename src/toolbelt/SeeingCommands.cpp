@@ -4,7 +4,9 @@
 
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
+#include "object/ForwardingObject.h"
 #include "object/GameObject.h"
+#include "subgames/PlayAreaObject.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/ObjectPath.h"
 #include "toolbelt/Views.h"
@@ -45,12 +47,32 @@ Json Memento(DriveSession& session, Arguments& arguments) {
   return {{"memento", DescribeMemento(**memento)}};
 }
 
-std::string OwnerOf(const ObjectWorld& world, const TimerInfo& timer) {
-  const auto* timed = world.TimedObjects.Find(std::to_string(timer.id));
-  const ObjectRef object = timed == nullptr ? nullptr : timed->lock();
-  if (object == nullptr) return EqualsNoCase(timer.callback, "OnLogicTimer") ? "GameLogic" : "";
-  const GameObject* inner = InnerObject(*object);
-  return inner == nullptr ? object->ObjectName() : inner->WorkPath();
+std::string PathOf(GameObjectInterface& object) {
+  const GameObject* inner = InnerObject(object);
+  return inner == nullptr ? object.ObjectName() : inner->WorkPath();
+}
+
+// The play area below `object` that runs on the timer; null without one.
+ObjectRef PlayAreaOfTimer(const ObjectRef& object, int id) {
+  if (object == nullptr) return nullptr;
+  const auto* area = dynamic_cast<const PlayAreaObject*>(object.get());
+  if (area != nullptr && area->GameUpdateTimerID() == id) return object;
+  for (const auto& [name, child] : object->Children()) {
+    if (ObjectRef found = PlayAreaOfTimer(child, id)) return found;
+  }
+  return nullptr;
+}
+
+std::string OwnerOf(const Globals& globals, const TimerInfo& timer) {
+  const auto* timed = globals.objects.TimedObjects.Find(std::to_string(timer.id));
+  if (const ObjectRef object = timed == nullptr ? nullptr : timed->lock()) return PathOf(*object);
+  if (EqualsNoCase(timer.callback, "OnLogicTimer")) return "GameLogic";
+  if (globals.GameLogic == nullptr) return "";
+  for (const ObjectRef& screen :
+       {globals.GameLogic->CurrentScreen(), globals.GameLogic->PreviousScreen()}) {
+    if (const ObjectRef area = PlayAreaOfTimer(screen, timer.id)) return PathOf(*area);
+  }
+  return "";
 }
 
 Json Timers(DriveSession& session, Arguments& arguments) {
@@ -58,7 +80,7 @@ Json Timers(DriveSession& session, Arguments& arguments) {
   const Globals* globals = session.Game().Game();
   Json list = Json::array();
   for (const TimerInfo& timer : session.Platform().timers.Running()) {
-    const std::string owner = globals == nullptr ? "" : OwnerOf(globals->objects, timer);
+    const std::string owner = globals == nullptr ? "" : OwnerOf(*globals, timer);
     list.push_back({{"id", timer.id},
                     {"interval", timer.interval.count()},
                     {"due", timer.due.count()},
@@ -71,6 +93,13 @@ Json Timers(DriveSession& session, Arguments& arguments) {
 Json Sounds(DriveSession& session, Arguments& arguments) {
   arguments.End();
   return {{"players", DescribePlayers(session)}};
+}
+
+Json SpokenCaption(DriveSession& session, Arguments& arguments) {
+  arguments.End();
+  session.Logic();  // refuses without a game
+  const Caption caption = session.Game().Captions().SpokenNow();
+  return {{"caption", TextJson(caption.text)}, {"bottom", caption.bottom}};
 }
 
 Json SwitchTrace(DriveSession& session, Arguments& arguments) {
@@ -131,6 +160,7 @@ const CommandTable& SeeingCommands() {
       {"memento NAME", "what is kept of a screen", Memento},
       {"timers", "the running timers", Timers},
       {"sounds", "the players that hold a file", Sounds},
+      {"caption", "the sentence that is said now, and the height it stands above", SpokenCaption},
       {"trace on|off", "watch messages, scripts, states, sounds, timers, screens, the log",
        SwitchTrace},
       {"events", "what was traced since last asked", Events},

@@ -12,7 +12,6 @@
 namespace quendle {
 
 class DriveSession;
-class GameObject;
 class GameObjectMemento;
 struct Form;
 
@@ -28,8 +27,6 @@ Json FormAnswer(DriveSession& session);
 // Everything that `state` tells; before the game is on, what is known of the settings.
 Json StateAnswer(DriveSession& session);
 
-// The object behind all forwarding; null for a class that has none.
-GameObject* InnerObject(GameObjectInterface& object);
 Json DescribeObject(GameObjectInterface& object);
 // The same with the children in place of their names.
 Json DescribeTree(GameObjectInterface& object);

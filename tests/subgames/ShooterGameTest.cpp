@@ -511,6 +511,10 @@ TEST_F(ShooterGame, AnEnemyShotStillFliesAtTheFoot) {
   QuietTick();
   EXPECT_EQ(Shot(1).ypos(), 612) << "it moved on from 600";
   EXPECT_FALSE(Shot(1).Visible());
+  Area().EnemyFire(700, 589);
+  Ticks(2);
+  EXPECT_EQ(Shot(1).ypos(), 601);
+  EXPECT_FALSE(Shot(1).Visible()) << "one pixel further it is gone";
 }
 
 TEST_F(ShooterGame, AShotThatHasDiedIsWholeAgainWhenItIsFired) {

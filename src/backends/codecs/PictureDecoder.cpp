@@ -10,6 +10,7 @@ extern "C" {
 
 #include "backends/codecs/PictureFrame.h"
 #include "backends/codecs/PictureHeader.h"
+#include "backends/codecs/PictureShrinker.h"
 #include "backends/raster/BitmapReader.h"
 
 namespace quendle {
@@ -79,10 +80,11 @@ Packet MakePacket(std::string_view bytes) {
 }
 
 Frame DecodeFrame(AVCodecContext& codec, std::string_view bytes) {
-  const Packet packet = MakePacket(bytes);
+  Packet packet = MakePacket(bytes);
   Frame frame(av_frame_alloc());
   if (packet == nullptr || frame == nullptr) return nullptr;
   if (avcodec_send_packet(&codec, packet.get()) < 0) return nullptr;
+  packet.reset();
   avcodec_send_packet(&codec, nullptr);  // nothing follows: what is there comes out
   if (avcodec_receive_frame(&codec, frame.get()) < 0) return nullptr;
   if (frame->decode_error_flags != 0 || (frame->flags & AV_FRAME_FLAG_CORRUPT) != 0) return nullptr;
@@ -94,33 +96,37 @@ int OrientationOf(const AVFrame& frame) {
   return entry == nullptr ? 1 : std::atoi(entry->value);
 }
 
-DecodedPicture DecodeWithLibrary(std::string_view bytes, PictureKind kind) {
+DecodedPicture DecodeWithLibrary(std::string_view bytes, PictureKind kind, PictureLimit limit) {
   const Codec codec = OpenCodec(kind);
   if (codec == nullptr) return {{}, kOtherKind};
   const Frame frame = DecodeFrame(*codec, bytes);
   if (frame == nullptr) return {{}, kDamaged};
-  Picture picture = PictureOfFrame(*frame);
+  Picture picture = PictureOfFrame(*frame, limit);
   if (picture.Empty()) return {{}, kOtherKind};
   return {Upright(std::move(picture), OrientationOf(*frame)), {}};
 }
 
 // The common bitmaps need no library; the rest (few colours, run lengths) goes to it.
-DecodedPicture DecodeBitmap(std::string_view bytes) {
-  BitmapFile file = ReadBitmapFile(bytes);
-  if (!file.problem.empty()) return DecodeWithLibrary(bytes, PictureKind::kBitmap);
-  const std::size_t count = static_cast<std::size_t>(file.width) * file.height;
-  return {{{file.width, file.height}, {file.pixels.get(), file.pixels.get() + count}}, {}};
+DecodedPicture DecodeBitmap(std::string_view bytes, PictureLimit limit) {
+  const BitmapFile file = ReadBitmapFile(bytes);
+  if (!file.problem.empty()) return DecodeWithLibrary(bytes, PictureKind::kBitmap, limit);
+  PictureShrinker shrinker({file.width, file.height}, limit);
+  const auto width = static_cast<std::size_t>(file.width);
+  for (std::size_t y = 0; y < static_cast<std::size_t>(file.height); ++y) {
+    shrinker.AddRow({file.pixels.get() + y * width, width});
+  }
+  return {shrinker.Take(), {}};
 }
 
 }  // namespace
 
-DecodedPicture DecodePicture(std::string_view bytes) {
+DecodedPicture DecodePicture(std::string_view bytes, PictureLimit limit) {
   const PictureHeader header = ReadPictureHeader(bytes);
   if (header.kind == PictureKind::kUnknown) return {{}, kOtherKind};
   if (header.width * header.height > kMostPicturePoints) return {{}, TooLarge(header)};
   if (!header.whole) return {{}, kDamaged};
-  if (header.kind == PictureKind::kBitmap) return DecodeBitmap(bytes);
-  return DecodeWithLibrary(bytes, header.kind);
+  if (header.kind == PictureKind::kBitmap) return DecodeBitmap(bytes, limit);
+  return DecodeWithLibrary(bytes, header.kind, limit);
 }
 
 }  // namespace quendle

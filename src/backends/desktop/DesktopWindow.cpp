@@ -80,7 +80,8 @@ void DesktopWindow::Open() {
   SDL_SetWindowMinimumSize(window_.get(), kSmallestWidth, kSmallestHeight);
   SetIcon(window_.get());
   renderer_ = std::make_unique<FrameRenderer>(window_.get());
-  renderer_->Upload(screen_.Frame());
+  layers_lost_ = true;
+  Upload();
   Draw();
   SDL_RaiseWindow(window_.get());
 }
@@ -93,6 +94,10 @@ void DesktopWindow::Close() {
   if (SDL_WasInit(SDL_INIT_VIDEO) != 0) SDL_ShowCursor(SDL_ENABLE);
 }
 
+void DesktopWindow::CloseByPlayer() {
+  if (events_ != nullptr) events_->Unload();
+}
+
 void DesktopWindow::SetCaption(const std::string& caption) {
   caption_ = caption;
   if (window_ != nullptr) SDL_SetWindowTitle(window_.get(), ToUtf8(caption).c_str());
@@ -103,6 +108,7 @@ std::optional<WindowProc> DesktopWindow::ReplaceWindowProc(WindowProc proc) {
 }
 
 void DesktopWindow::SendMessageA(unsigned message, std::intptr_t w, std::intptr_t l) {
+  if (message == kActivateAppMessage) active_ = w != 0;
   // From a copy: the procedure may put the one before it back.
   WindowProc proc = proc_;
   if (proc) proc(kHandle, message, w, l);
@@ -134,15 +140,23 @@ void DesktopWindow::SetOverlay(FormInput* input) {
   FollowPointer({-1, -1});
 }
 
-// A frame is shown at once, in the middle of the tick that composed it.
+// A frame is shown at once, in the middle of the tick that composed it; one with the same pixels
+// as the last costs nothing.
 void DesktopWindow::OnPresented() {
-  frame_is_new_ = true;
-  if (renderer_ != nullptr) Draw();
+  if (screen_.Bitmap()->Version() != uploaded_version_) frame_is_new_ = true;
+  if (renderer_ == nullptr) return;
+  const bool layers_are_new = UpdateLayers();
+  if (frame_is_new_ || layers_are_new) Draw();
+}
+
+void DesktopWindow::Upload() {
+  renderer_->Upload(screen_.Frame());
+  uploaded_version_ = screen_.Bitmap()->Version();
+  frame_is_new_ = false;
 }
 
 void DesktopWindow::Draw() {
-  if (frame_is_new_) renderer_->Upload(screen_.Frame());
-  frame_is_new_ = false;
+  if (frame_is_new_) Upload();
   if (overlay_dirty_) {
     overlay_dirty_ = false;
     if (overlay_ == nullptr) {
@@ -152,8 +166,36 @@ void DesktopWindow::Draw() {
       renderer_->SetOverlay(&picture);
     }
   }
+  UpdateLayers();
   stale_ = false;
   renderer_->Draw(options_.scale);
+}
+
+// True when a layer looks other than before.
+bool DesktopWindow::UpdateLayers() {
+  if (layers_.empty()) return false;
+  bool changed = false;
+  const Size output = renderer_->OutputSize();
+  const LayerView view{output, FrameArea(output, options_.scale), pointer_};
+  for (std::size_t slot = 0; slot < layers_.size(); ++slot) {
+    if (const LayerContents* contents = layers_[slot]->Update(view, layers_lost_)) {
+      renderer_->SetLayer(slot, *contents);
+      changed = true;
+    }
+  }
+  layers_lost_ = false;
+  return changed;
+}
+
+// True when the event was for a layer and not for the game.
+bool DesktopWindow::SendToLayers(const SDL_Event& event) {
+  auto takes = [&event](FrameLayer* layer) {
+    if (event.type == SDL_MOUSEWHEEL) return layer->TakeWheel(event.wheel.y);
+    return event.type == SDL_KEYDOWN && event.key.repeat == 0 && layer->TakeKey(event.key.keysym);
+  };
+  if (!std::ranges::any_of(layers_, takes)) return false;
+  stale_ = true;
+  return true;
 }
 
 void DesktopWindow::Settle() {
@@ -172,7 +214,7 @@ void DesktopWindow::HandleInput(const SDL_Event& event) {
     SendToForm(event, *overlay_, OverlayPlace());
     return;
   }
-  if (events_ != nullptr) SendToGame(event);
+  if (events_ != nullptr && !SendToLayers(event)) SendToGame(event);
 }
 
 void DesktopWindow::SendToGame(const SDL_Event& event) {
@@ -180,6 +222,7 @@ void DesktopWindow::SendToGame(const SDL_Event& event) {
     Point at = FramePosition(event.motion.x, event.motion.y);
     events_->MouseMove(ButtonBits(event.motion.state), ShiftBits(), at.x, at.y);
   } else if (event.type == SDL_MOUSEBUTTONDOWN) {
+    Activate(true);  // the game may have paused itself while its window kept the focus
     Point at = FramePosition(event.button.x, event.button.y);
     int button = ButtonNumber(event.button.button);
     if (button != 0) events_->MouseDown(button, ShiftBits(), at.x, at.y);
@@ -198,6 +241,7 @@ void DesktopWindow::HandleUpkeep(const SDL_Event& event) {
   if (event.type == SDL_RENDER_DEVICE_RESET) {
     renderer_->MakePicturesAnew();
     overlay_dirty_ = true;
+    layers_lost_ = true;
   }
   if (event.type == SDL_RENDER_TARGETS_RESET || event.type == SDL_RENDER_DEVICE_RESET) {
     frame_is_new_ = true;
@@ -237,7 +281,6 @@ void DesktopWindow::ToggleFullScreen() {
 
 void DesktopWindow::Activate(bool active) {
   if (active == active_) return;
-  active_ = active;
   SendMessageA(kActivateAppMessage, active ? 1 : 0, 0);
 }
 
@@ -247,6 +290,8 @@ void DesktopWindow::FollowPointer(Point at) {
   if (window_ == nullptr) return;
   if (at.x >= 0) {
     pointer_on_frame_ = IsOverFrame(at, WindowSize(), renderer_->OutputSize(), options_.scale);
+    pointer_.reset();
+    if (pointer_on_frame_) pointer_ = FramePosition(at.x, at.y);
   }
   bool seen = pointer_wanted_ || overlay_ != nullptr || !pointer_on_frame_;
   SDL_ShowCursor(seen ? SDL_ENABLE : SDL_DISABLE);

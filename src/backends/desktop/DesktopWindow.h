@@ -2,7 +2,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "backends/desktop/DesktopEventLoop.h"
 #include "backends/desktop/FormInput.h"
@@ -40,6 +42,8 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   // Puts a form over the frame, or takes it away with a null one. `input` outlives its showing.
   void SetOverlay(FormInput* input);
   FormInput* Overlay() { return overlay_; }
+  // Something that lies over the frame, below a form; the last one on top. It outlives the window.
+  void AddLayer(FrameLayer& layer) { layers_.push_back(&layer); }
   std::string DrawingBackend() const;
 
   void Show(GameWindowEvents& events) override;
@@ -52,6 +56,8 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   void Beep() override;
   Point ClientToScreen() override { return {0, 0}; }
   void Close() override;
+  // The player wants the game to end; what that throws passes through.
+  void CloseByPlayer();
 
   std::uint32_t WindowId() const override;
   void HandleInput(const SDL_Event& event) override;
@@ -67,7 +73,10 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
 
   void Open();
   void OnPresented();
+  void Upload();
   void Draw();
+  bool UpdateLayers();
+  bool SendToLayers(const SDL_Event& event);
   void ToggleFullScreen();
   void SendToGame(const SDL_Event& event);
   void Activate(bool active);
@@ -94,9 +103,13 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   bool overlay_dirty_ = false;
   bool stale_ = false;
   bool frame_is_new_ = false;
+  std::uint64_t uploaded_version_ = 0;  // of the frame's pixels
   bool active_ = true;  // the game takes itself for active until it is told otherwise
   bool pointer_wanted_ = true;
   bool pointer_on_frame_ = true;
+  std::optional<Point> pointer_;  // on the frame
+  std::vector<FrameLayer*> layers_;
+  bool layers_lost_ = true;
 };
 
 }  // namespace quendle

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "base/FatalError.h"
 
@@ -78,12 +79,14 @@ FrameRenderer::FrameRenderer(SDL_Window* window) {
 
 // Pictures go before the renderer that they belong to.
 FrameRenderer::~FrameRenderer() {
+  layers_.clear();
   overlay_.reset();
   enlarged_.reset();
   frame_.reset();
 }
 
 void FrameRenderer::MakePicturesAnew() {
+  layers_.clear();
   overlay_.reset();
   enlarged_.reset();
   enlarged_factor_ = 0;
@@ -110,10 +113,48 @@ void FrameRenderer::SetOverlay(const Canvas* picture) {
   SDL_UpdateTexture(overlay_.get(), nullptr, picture->Pixels().data(), overlay_size_.width * 4);
 }
 
+void FrameRenderer::SetLayer(std::size_t slot, const LayerContents& contents) {
+  if (layers_.size() <= slot) layers_.resize(slot + 1);
+  Layer& layer = layers_[slot];
+  layer.pictures.clear();
+  for (const LayerPicture& picture : contents.pictures) {
+    const Size size = picture.canvas.PixelSize();
+    Texture texture(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_RGB888,
+                                      SDL_TEXTUREACCESS_STATIC, size.width, size.height));
+    if (texture == nullptr) continue;
+    SDL_UpdateTexture(texture.get(), nullptr, picture.canvas.Pixels().data(), size.width * 4);
+    if (picture.opacity < 255) {
+      SDL_SetTextureBlendMode(texture.get(), SDL_BLENDMODE_BLEND);
+      SDL_SetTextureAlphaMod(texture.get(), static_cast<Uint8>(picture.opacity));
+    }
+    layer.pictures.push_back(
+        {std::move(texture),
+         {picture.at.x, picture.at.y, picture.at.x + size.width, picture.at.y + size.height}});
+  }
+  layer.outlines = contents.outlines;
+}
+
+void FrameRenderer::DrawLayer(const Layer& layer) {
+  for (const LayerOutline& outline : layer.outlines) {
+    const Rgba& color = outline.color;
+    SDL_SetRenderDrawColor(renderer_.get(), color.r, color.g, color.b, 255);
+    for (int inset = 0; inset < outline.width; ++inset) {
+      SDL_Rect line = ToSdl(outline.area);
+      line = {line.x + inset, line.y + inset, line.w - 2 * inset, line.h - 2 * inset};
+      if (line.w > 0 && line.h > 0) SDL_RenderDrawRect(renderer_.get(), &line);
+    }
+  }
+  for (const Layer::Laid& picture : layer.pictures) {
+    const SDL_Rect place = ToSdl(picture.place);
+    SDL_RenderCopy(renderer_.get(), picture.texture.get(), nullptr, &place);
+  }
+}
+
 void FrameRenderer::Draw(ScaleMode mode) {
   SDL_SetRenderDrawColor(renderer_.get(), 0, 0, 0, 255);
   SDL_RenderClear(renderer_.get());
   DrawFrame(mode);
+  for (const Layer& layer : layers_) DrawLayer(layer);
   if (overlay_ != nullptr) {
     Size output = OutputSize();
     SDL_SetRenderDrawBlendMode(renderer_.get(), SDL_BLENDMODE_BLEND);

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "backends/desktop/Canvas.h"
+#include "backends/desktop/FrameLayer.h"
 #include "backends/desktop/FrameScaling.h"
 
 struct SDL_Renderer;
@@ -28,9 +31,12 @@ class FrameRenderer {
   void Upload(const std::uint32_t* frame);
   // A picture that stands centred over the frame, unscaled; nothing removes it.
   void SetOverlay(const Canvas* picture);
+  // What lies over the frame and below that picture, a slot for each layer.
+  void SetLayer(std::size_t slot, const LayerContents& contents);
   // Draws everything and shows it.
   void Draw(ScaleMode mode);
-  // The device lost its pictures: they are made again. The caller uploads the frame anew.
+  // The device lost its pictures: they are made again. The caller uploads the frame anew, and sets
+  // the layers and the overlay.
   void MakePicturesAnew();
   Size OutputSize() const;
   // The drawing backend, such as "opengl" or "software".
@@ -45,7 +51,17 @@ class FrameRenderer {
   };
   using Texture = std::unique_ptr<SDL_Texture, DestroyTexture>;
 
+  struct Layer {
+    struct Laid {
+      Texture texture;
+      Rect place;
+    };
+    std::vector<Laid> pictures;
+    std::vector<LayerOutline> outlines;
+  };
+
   void DrawFrame(ScaleMode mode);
+  void DrawLayer(const Layer& layer);
   SDL_Texture* Enlarged(int factor);
 
   std::unique_ptr<SDL_Renderer, DestroyRenderer> renderer_;
@@ -53,6 +69,7 @@ class FrameRenderer {
   Texture enlarged_;
   int enlarged_factor_ = 0;
   bool enlarged_is_new_ = false;
+  std::vector<Layer> layers_;
   Texture overlay_;
   Size overlay_size_;
 };

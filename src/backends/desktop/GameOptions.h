@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -12,7 +13,9 @@ struct GameOptions {
   WindowOptions window;
   std::string content;  // folder of the content; empty: where content is looked for
   std::string user;     // folder that takes what the game writes; empty: the content, if it can
+  std::optional<bool> captions;  // show captions in this run; nothing: as last chosen in the game
   bool version = false;
+  std::optional<std::int16_t> tester;  // interval of the recorder in milliseconds; none: it is off
 
   // Reads the command line of `program`. Where that ends the program (help, a usage error) the
   // text was printed and `exit_code` is set: 0, or 2 for an error.

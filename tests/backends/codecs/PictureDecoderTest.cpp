@@ -147,6 +147,43 @@ TEST(PictureDecoder, BrokenBytesGiveAPictureOrAProblemAndNothingWorse) {
   }
 }
 
+TEST(PictureDecoder, APictureBeyondTheLimitIsMadeSmallerByAWholeNumber) {
+  std::vector<std::uint32_t> words;
+  for (std::uint32_t i = 0; i < 11 * 7; ++i) words.push_back(i << 16 | i * 2 << 8 | (255 - i));
+  const std::string bitmap = WriteBitmapFile(11, 7, words.data());
+  // The side of 11 makes 3 the smallest whole number; a column and a row are left over.
+  const Picture small = DecodePicture(bitmap, {10, 4}).picture;
+  ASSERT_EQ(small.size, (Size{3, 2}));
+  std::uint32_t red = 0, blue = 0;
+  for (std::size_t y = 3; y < 6; ++y) {
+    for (std::size_t x = 6; x < 9; ++x) {
+      red += words[y * 11 + x] >> 16;
+      blue += words[y * 11 + x] & 255;
+    }
+  }
+  const std::uint32_t mean = (red + 4) / 9;
+  EXPECT_EQ(small.At(2, 1), mean << 16 | mean * 2 << 8 | (blue + 4) / 9);
+  EXPECT_EQ(DecodePicture(bitmap, {11, 4}).picture.size, (Size{11, 7})) << "within the limit";
+  EXPECT_EQ(DecodePicture(bitmap, {10, 11}).picture.size, (Size{11, 7})) << "small enough as it is";
+  EXPECT_EQ(DecodePicture(bitmap, {10, 10}).picture.size, (Size{5, 3}));
+}
+
+TEST(PictureDecoder, AStripNarrowerThanABlockKeepsOnePixel) {
+  const std::vector<std::uint32_t> words(3 * 100, 0x102030);
+  const std::string strip = WriteBitmapFile(3, 100, words.data());
+  EXPECT_TRUE(DecodePicture(strip, {50, 10}).picture ==
+              (Picture{{1, 10}, std::vector<std::uint32_t>(10, 0x102030)}));
+}
+
+TEST(PictureDecoder, AJpegIsMadeSmallerAndThenTurned) {
+  const std::string jpeg = TestData("photograph.jpg");
+  const Picture whole = DecodePicture(jpeg).picture;
+  const Picture small = DecodePicture(jpeg, {500, 450}).picture;
+  ASSERT_EQ(small.size, (Size{450, 350}));
+  ExpectNear(small, 230, 165, whole.At(460, 330));
+  EXPECT_TRUE(DecodePicture(Held(jpeg, 6), {500, 450}).picture == Upright(small, 6));
+}
+
 TEST(PictureDecoder, MoreThanFiftyMillionPointsAreRefusedBeforeAnythingIsDecoded) {
   const std::string jpeg =
       Bytes({0xFF, 0xD8, 0xFF, 0xC0, 0, 17,   8, 0x27, 0x10, 0x27, 0x10, 3,    1,   0x22,
@@ -164,7 +201,7 @@ TEST(PictureDecoder, MoreThanFiftyMillionPointsAreRefusedBeforeAnythingIsDecoded
 TEST(PictureDecoderLoader, GoesByTheBytesAndNotByTheName) {
   const std::string path = testing::TempDir() + "really-a-jpeg.gif";
   std::ofstream(path, std::ios::binary) << TestData("photograph.jpg");
-  const LoadedPicture loaded = PictureDecoderLoader().LoadPicture(path);
+  const LoadedPicture loaded = PictureDecoderLoader().LoadPicture(path, {});
   ASSERT_NE(loaded.picture, nullptr) << loaded.problem;
   EXPECT_EQ(loaded.picture->size, (Size{900, 700}));
   std::filesystem::remove(path);
@@ -175,7 +212,7 @@ TEST(PictureDecoderLoader, WhatIsNoRegularFileCantBeOpened) {
   mkfifo(pipe.c_str(), 0600);
   for (const std::string& path : {std::string(), std::string("/nowhere/photo.jpg"), pipe,
                                   std::string("/tmp"), std::string("/dev/zero")}) {
-    const LoadedPicture loaded = PictureDecoderLoader().LoadPicture(path);
+    const LoadedPicture loaded = PictureDecoderLoader().LoadPicture(path, {});
     EXPECT_EQ(loaded.picture, nullptr) << path;
     EXPECT_EQ(loaded.problem, "This file can't be opened. Please choose another one.") << path;
   }

@@ -154,6 +154,21 @@ TEST_F(DesktopWindowTest, ChangesOfFocusGoThroughTheCurrentWindowProcedure) {
   EXPECT_EQ(messages.size(), 2u);
 }
 
+// A page that the game opened need not take the focus away.
+TEST_F(DesktopWindowTest, APressWakesAGameThatHasPausedItself) {
+  Log messages;
+  window_->ReplaceWindowProc([&](int, unsigned, std::intptr_t w, std::intptr_t) -> std::intptr_t {
+    messages.push_back(std::to_string(w));
+    return 0;
+  });
+  window_->SendMessageA(kActivateAppMessage, 0, 0);
+  SendWindow(SDL_WINDOWEVENT_FOCUS_LOST);
+  EXPECT_EQ(messages, (Log{"0"})) << "told once";
+  Send(Button(SDL_MOUSEBUTTONDOWN, SDL_BUTTON_LEFT, 12, 34));
+  Send(Button(SDL_MOUSEBUTTONDOWN, SDL_BUTTON_LEFT, 12, 34));
+  EXPECT_EQ(messages, (Log{"0", "1"}));
+}
+
 TEST_F(DesktopWindowTest, ClosingTheWindowUnloads) {
   SendWindow(SDL_WINDOWEVENT_CLOSE);
   EXPECT_EQ(events_.Take(), (Log{"unload"}));
@@ -195,6 +210,45 @@ TEST_F(DesktopWindowTest, ABoxOverTheFrameTakesInputAndShowsThePointer) {
   EXPECT_TRUE(events_.Take().empty());
   window_->SetOverlay(nullptr);
   EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_DISABLE);
+}
+
+class Layer : public FrameLayer {
+ public:
+  bool TakeKey(const SDL_Keysym& key) override { return key.sym == SDLK_F2; }
+  bool TakeWheel(int steps) override { return steps > 0; }
+  const LayerContents* Update(const LayerView& view, bool anew) override {
+    views.push_back(view);
+    lost += anew ? 1 : 0;
+    return nullptr;
+  }
+  std::vector<LayerView> views;
+  int lost = 0;
+};
+
+TEST_F(DesktopWindowTest, AKeyForALayerIsNoKeyOfTheGame) {
+  Layer layer;
+  window_->AddLayer(layer);
+  SendKey(SDLK_F2);
+  SendKey(SDLK_ESCAPE);
+  EXPECT_EQ(events_.Take(), (Log{"key 27"}));
+  window_->Close();
+}
+
+TEST_F(DesktopWindowTest, ALayerSeesThePointerOnTheFrameWithEachFrame) {
+  SDL_SetWindowSize(SDL_GetWindowFromID(window_->WindowId()), 800, 600);
+  Pump();
+  Layer layer;
+  window_->AddLayer(layer);
+  screen_.Present();
+  EXPECT_EQ(layer.lost, 1) << "nothing is shown yet";
+  Send(Motion(12, 34));
+  layer.views.clear();
+  screen_.Present();
+  ASSERT_EQ(layer.views.size(), 1u);
+  EXPECT_EQ(layer.views[0].pointer, (Point{12, 34}));
+  EXPECT_EQ(layer.views[0].frame, (Rect{0, 0, 800, 600}));
+  EXPECT_EQ(layer.lost, 1);
+  window_->Close();
 }
 
 TEST_F(DesktopWindowTest, AfterCloseNothingArrives) {

@@ -37,6 +37,12 @@ TEST(GameOptions, WordsAreTaken) {
   EXPECT_TRUE(parsed.options.version);
 }
 
+TEST(GameOptions, CaptionsAreAsLastChosenUnlessAWordSaysOtherwise) {
+  EXPECT_EQ(Parse({}).options.captions, std::nullopt);
+  EXPECT_EQ(Parse({"--captions"}).options.captions, true);
+  EXPECT_EQ(Parse({"--no-captions"}).options.captions, false);
+}
+
 TEST(GameOptions, AnUnknownWordIsAUsageError) {
   testing::internal::CaptureStderr();
   EXPECT_EQ(Parse({"--nonsense"}).exit_code, 2);
