@@ -26,6 +26,7 @@ void TestingObject::RegisterNewEventFile(const std::string& category, const std:
 
 void TestingObject::LogEvent(std::string_view message, int level, std::string_view category) {
   if (thresholds_.Item(category) < level) return;
+  if (mirror_ != nullptr) mirror_->PutOnTop(message);
   if (write_to_file_) {
     streams_.Item(category)->WriteLine(message);
   } else if (window_ != nullptr) {

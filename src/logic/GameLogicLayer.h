@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -119,6 +120,8 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void EndSubgame(const char* patient_message);
   void EnterScreen(const std::string& name);
   void GiveOneTimeHelp(const std::string& name);
+  // A click begins at that point; nothing for its end, and whether the screen was spared it.
+  void TraceClick(std::optional<Point> begin, bool skipped);
   void UpdateUpperLayers(std::int16_t x, std::int16_t y, const ActionText& action);
   void StartMusic();
   void CountDraw();

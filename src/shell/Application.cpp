@@ -78,6 +78,7 @@ void Application::OpenGameWindow() {
   globals_ = std::make_unique<Globals>(settings_, ports_, content_);
   globals_->media.UseDirectX = true;
   globals_->media.FullScreen = true;
+  globals_->debug_window = debug_window_;
   SetTracer(tracer_);
   SetBlitWatcher(blit_watcher_);
   screen_ = std::make_unique<Quendle_Game_Screen>(*globals_, prompt_->Files());
@@ -121,6 +122,13 @@ void Application::GiveDisplayBack() {
 void Application::SetTracer(Tracer* tracer) {
   tracer_ = tracer;
   if (globals_ != nullptr) globals_->watch.tracer = tracer;
+}
+
+void Application::SetDebugWindow(Debomb_Window* window) {
+  debug_window_ = window;
+  if (globals_ == nullptr) return;
+  globals_->debug_window = window;
+  if (globals_->EventLog != nullptr) globals_->EventLog->SetMirror(window);
 }
 
 void Application::SetBlitWatcher(BlitWatcher* watcher) {

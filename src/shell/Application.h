@@ -60,6 +60,8 @@ class Application : private GameStarter {
   // Told to the game when it starts; may be null.
   void SetTracer(Tracer* tracer);
   void SetBlitWatcher(BlitWatcher* watcher);
+  // Shows the event log of the game beside its file; told to the game when it starts. May be null.
+  void SetDebugWindow(Debomb_Window* window);
   // What is said; nothing before Play.
   CaptionSource& Captions() { return captions_; }
 
@@ -78,6 +80,7 @@ class Application : private GameStarter {
   std::unique_ptr<Quendle_Game_Screen> screen_;
   Tracer* tracer_ = nullptr;
   BlitWatcher* blit_watcher_ = nullptr;
+  Debomb_Window* debug_window_ = nullptr;
   Status status_ = Status::kRunning;
   bool delivering_ = false;  // an outermost frame is on the stack
   FaultReport fault_;

@@ -14,6 +14,7 @@
 namespace quendle {
 
 class GameLogicLayer;
+struct Debomb_Window;
 class TestingObject;
 
 // Everything that one game run shares, each world on the one below. Registries are created empty.
@@ -30,6 +31,7 @@ struct Globals {
   ObjectFactory factory;  // knows every type word
   ObjectWorld objects;
   std::unique_ptr<TestingObject> EventLog;
+  Debomb_Window* debug_window = nullptr;      // shows the event log too, if there is one
   std::shared_ptr<GameLogicLayer> GameLogic;  // null before it is created and after its end
 };
 

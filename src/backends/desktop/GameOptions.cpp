@@ -24,6 +24,9 @@ GameOptions GameOptions::Parse(const std::string& program, int argc, const char*
   const CLI::Option* captions_word =
       app.add_flag("--captions,!--no-captions", captions,
                    "Show what is said as text, or don't; F2 switches it in the game and keeps it");
+  app.add_flag("--debug", options.debug,
+               "For authors: play in a window, with the event log in a second one; F12 shows what "
+               "lies under the pointer");
   app.add_flag("--version", options.version,
                "Tell build, libraries, drawing backend and folders, and end");
   try {
@@ -32,7 +35,7 @@ GameOptions GameOptions::Parse(const std::string& program, int argc, const char*
     exit_code = app.exit(error) == 0 ? 0 : 2;
   }
   if (captions_word->count() > 0) options.captions = captions;
-  options.window.full_screen = !in_window;
+  options.window.full_screen = !in_window && !options.debug;
   options.window.scale = modes.at(scale);
   return options;
 }

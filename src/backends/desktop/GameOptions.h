@@ -13,6 +13,7 @@ struct GameOptions {
   std::string content;  // folder of the content; empty: where content is looked for
   std::string user;     // folder that takes what the game writes; empty: the content, if it can
   std::optional<bool> captions;  // show captions in this run; nothing: as last chosen in the game
+  bool debug = false;            // the event log in a window of its own, and F12 for authors
   bool version = false;
 
   // Reads the command line of `program`. Where that ends the program (help, a usage error) the
