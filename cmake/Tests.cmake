@@ -91,3 +91,19 @@ function(quendle_recordings)
       TIMEOUT 300 LABELS recording ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
   endforeach()
 endfunction()
+
+# What the pages say: links, the tutorial from its first line to its last, the manual.
+function(quendle_pages)
+  set(docs ${PROJECT_SOURCE_DIR}/docs)
+  add_test(NAME docs.links COMMAND ${Python3_EXECUTABLE} ${docs}/check_docs.py)
+  set_tests_properties(docs.links PROPERTIES LABELS docs)
+  if(TARGET quendle)
+    add_test(NAME docs.tutorial
+             COMMAND ${Python3_EXECUTABLE} ${docs}/authors/check_tutorial.py $<TARGET_FILE:quendle>)
+    add_test(NAME docs.manual
+             COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/scripts/make_man.py
+                     $<TARGET_FILE:quendle> ${PROJECT_BINARY_DIR}/checked-man --check)
+    set_tests_properties(docs.tutorial docs.manual PROPERTIES
+      TIMEOUT 300 LABELS docs ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  endif()
+endfunction()

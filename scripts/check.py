@@ -109,6 +109,13 @@ def step_content():
     return run("content", sys.executable, ROOT / "scripts/visit_screens.py", BIN), 1
 
 
+def step_docs():
+    """The pages: links, tests that they name, and the examples, played and broken"""
+    return (run("docs", sys.executable, ROOT / "docs/check_docs.py")
+            and run("docs", sys.executable, ROOT / "docs/formats/check_examples.py",
+                    BIN / "quendle", BIN)), 1
+
+
 def step_sanitizers():
     """Unit tests and scenarios under the address and undefined-behaviour sanitizers"""
     if not (run("asan-build", "cmake", "--preset", "asan")
@@ -119,8 +126,8 @@ def step_sanitizers():
 
 STEPS = {function.__name__.removeprefix("step_"): function for function in (
     step_format, step_rooms, step_packages, step_build, step_tidy, step_tests, step_content,
-    step_sanitizers)}
-NEED_BUILD = {"tidy", "tests", "content", "sanitizers"}
+    step_docs, step_sanitizers)}
+NEED_BUILD = {"tidy", "tests", "content", "docs", "sanitizers"}
 
 
 def knows_command(word):

@@ -27,11 +27,16 @@ bool Failed(DriveSession& session) {
   return session.Game().GetStatus() == Application::Status::kFailed;
 }
 
+// Up to where the events begin. False when the game failed by then.
+bool Begin(ContentRun& run, const RandomSettings& settings) {
+  return run.Play(settings.difficulty) && (settings.from.empty() || run.Enter(settings.from));
+}
+
 // The fault that events lead to in a new game; empty without one.
 std::string FaultOf(const RandomSettings& settings, const Lines& events) {
   ContentRun run(settings.content, settings.options);
   DriveSession& session = run.Session();
-  run.Play(settings.difficulty);
+  Begin(run, settings);
   for (const std::string& event : events) {
     if (!session.Running()) break;
     RunCommandLine(session, event);
@@ -78,7 +83,7 @@ class WildRun {
     ++games_;
     events_.clear();
     game_ = std::make_unique<ContentRun>(settings_.content, settings_.options);
-    if (!game_->Play(settings_.difficulty)) return false;
+    if (!Begin(*game_, settings_)) return false;
     NoteScreen(game_->Session());
     return true;
   }
@@ -117,6 +122,7 @@ std::string Script(const RandomSettings& settings, const std::string& fault, con
   std::istringstream lines(ToUtf8(fault));
   for (std::string line; std::getline(lines, line);) script << "# " << line << "\n";
   for (const std::string& line : CommandsToPlay(settings.difficulty)) script << line << "\n";
+  if (!settings.from.empty()) script << "send cs_" << settings.from << "\n";
   for (const std::string& event : events) script << event << "\n";
   return script.str();
 }

@@ -8,7 +8,7 @@ namespace {
 
 // In hundredths of all events; what is left lets time pass.
 constexpr int kPointer = 72;
-constexpr int kKeys = 2;
+constexpr int kKeys = 1;  // Esc leads out of the game: seldom, so that games get far
 constexpr int kFocus = 2;
 
 constexpr int kShortTime = 200;   // milliseconds
@@ -44,7 +44,7 @@ std::string WildEvents::Next(DriveSession& session) {
   int kind = Pick(100);
   if (kind < kPointer) return PointerEvent(session);
   if ((kind -= kPointer) < kKeys) {
-    return "key " + std::to_string(Pick(3) > 0 ? kEscape : Pick(256));
+    return "key " + std::to_string(Pick(2) > 0 ? kEscape : Pick(256));
   }
   if ((kind -= kKeys) < kFocus) return Pick(3) > 0 ? "focus on" : "focus off";
   return "tick " + std::to_string(10 + Pick(Pick(6) > 0 ? kShortTime : kLongTime));

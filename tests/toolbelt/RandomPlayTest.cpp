@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "backends/files/DiskFileSystem.h"
+#include "toolbelt/Arguments.h"
 #include "toolbelt/Drive.h"
 #include "toolbelt/Shortening.h"
 #include "toolbelt/TreeBench.h"
@@ -120,6 +121,16 @@ TEST_F(RandomPlayTest, AFaultIsShownByAShortScriptThatDriveCanPlay) {
   std::ostringstream answers;
   EXPECT_EQ(RunDriveSession(session, in, answers), 3);
   EXPECT_THAT(answers.str(), HasSubstr("has no sound"));
+}
+
+TEST_F(RandomPlayTest, AGameCanBeginAtAScreen) {
+  Replace("backdoor/backdoorscript.txt", "mtp cs_introscreen", "runsound creak");
+  settings.from = "hall";
+  EXPECT_EQ(Play(), 3);
+  EXPECT_THAT(out.str(), HasSubstr("# 1 of "));
+  EXPECT_THAT(out.str(), HasSubstr("\nplay\nsend cs_hall\nclick "));
+  settings.from = "hell";
+  EXPECT_THROW(Play(), CommandRefused);
 }
 
 TEST_F(RandomPlayTest, AGameThatCannotStartNeedsNoEvent) {

@@ -26,6 +26,8 @@ void AddRandom(CLI::App& belt, int& exit_code) {
       ->check(CLI::Range(1L, 100000000L))
       ->option_text("N")
       ->capture_default_str();
+  command->add_option("--from", settings->from, "The screen where each game begins")
+      ->option_text("SCREEN");
   command->add_option("--output", settings->output, "Saves the script of a fault, too")
       ->option_text("FILE");
   AddDifficulty(*command, settings->difficulty);
@@ -33,7 +35,7 @@ void AddRandom(CLI::App& belt, int& exit_code) {
   AddEditionAndSeed(*command, settings->options);
   command->footer(Footer(kText,
                          {"quendle random build/release/bin --seed 7 --events 5000",
-                          "quendle random mygame --output fault.drive"},
+                          "quendle random mygame --from garden --output fault.drive"},
                          {{0, "no fault was found"}, {3, "the game ended fatally"}}));
   command->callback([settings, path, &exit_code] {
     settings->options.window_path = *path == kWindowPath;
