@@ -9,6 +9,7 @@
 #include "base/FatalError.h"
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
+#include "object/ForwardingObject.h"
 #include "object/GameObject.h"
 #include "toolbelt/Arguments.h"
 #include "toolbelt/ContentRun.h"
