@@ -66,10 +66,10 @@ void CheckSequences(const CheckContext& context, const ModelObject& object,
     for (const std::string& name : names) {
       if (object.Frame(name) != nullptr) continue;
       context.Tell(Check::kUnknownFrame, object, place,
-                   "Did not find Animation Frame \"" + name + "\" of animation \"" + record.name +
-                       "\"" + DidYouMean(name, Names(object.frames, [](const auto& f) {
-                                           return f.frame.FrameName;
-                                         })));
+                   "Did not Successfully Verify the Animation State \"" + record.name +
+                       "\": Did not find Animation Frame \"" + name + "\"" +
+                       DidYouMean(name, Names(object.frames,
+                                              [](const auto& f) { return f.frame.FrameName; })));
     }
   }
 }

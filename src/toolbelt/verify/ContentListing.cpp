@@ -17,10 +17,16 @@ std::string ContentPathOf(const fs::path& relative) {
   return path;
 }
 
-// Doubled separators count as one, as the file system reads them.
+bool IsSeparator(char c) { return c == '\\' || c == '/'; }
+
+// As the file system reads a path: slashes serve too, doubled separators count as one. A path that
+// doesn't begin with a separator, or ends with one, is no file: the key of none.
 std::string KeyOf(std::string_view path) {
+  if (path.empty() || !IsSeparator(path.front()) || IsSeparator(path.back())) return "";
+  std::string plain = FoldCase(path);
+  std::ranges::replace(plain, '/', '\\');
   std::string key;
-  for (const std::string& part : SplitTokens(path, '\\')) key += "\\" + FoldCase(part);
+  for (const std::string& part : SplitTokens(plain, '\\')) key += "\\" + part;
   return key;
 }
 

@@ -8,10 +8,15 @@
 namespace quendle {
 namespace {
 
+std::vector<std::string> Components(std::string path) {
+  std::ranges::replace(path, '/', '\\');
+  return SplitTokens(path, '\\');
+}
+
 // The components of a stored path that the author wrote: tokens stand for others.
 std::size_t WrittenComponents(const std::string& stored) {
   std::size_t count = 0;
-  for (const std::string& part : SplitTokens(stored, '\\')) {
+  for (const std::string& part : Components(stored)) {
     const bool token = part.starts_with('<') && part.ends_with('>');
     if (!token) ++count;
   }
@@ -19,7 +24,7 @@ std::size_t WrittenComponents(const std::string& stored) {
 }
 
 std::string LastComponents(const std::string& path, std::size_t count) {
-  const std::vector<std::string> parts = SplitTokens(path, '\\');
+  const std::vector<std::string> parts = Components(path);
   return JoinTokens(parts, parts.size() - std::min(count, parts.size()), '\\');
 }
 
@@ -69,8 +74,10 @@ void FileGate::TellMissing(const NamedFile& file, Check missing) {
   const std::string nearest = NearestFile(listing_, file.resolved);
   const std::string hint = nearest.empty() ? "" : "; did you mean \"" + nearest + "\"?";
   const std::string warning = missing == Check::kSoundMissing ? "Did not find Sound File: " : "";
+  const bool rooted = file.resolved.starts_with('\\') || file.resolved.starts_with('/');
   findings_.Add(missing, file.object, file.place,
-                warning + "file " + file.resolved + " not found" + hint);
+                warning + "file " + file.resolved + " not found" +
+                    (rooted ? hint : "; a path begins with a backslash or a token"));
 }
 
 void FileGate::CheckCase(const NamedFile& file) {
