@@ -9,7 +9,7 @@
 #include "base/FatalError.h"
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
-#include "object/GameObject.h"
+#include "object/ForwardingObject.h"
 #include "toolbelt/Arguments.h"
 #include "toolbelt/ContentRun.h"
 #include "toolbelt/ObjectPath.h"
