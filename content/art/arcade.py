@@ -30,11 +30,20 @@ def tile_picture():
     return out + flower(196, 372, WHITE, 1.1) + grapes(330, 196, 1.1)
 
 
+# The numbers 1 to 8 as strokes in a box of 10 by 14.
+DIGITS = (
+    "M2,3L6,0V14", "M1,3Q1,0 5,0T9,4Q9,7 1,14H9", "M1,1Q9,-2 9,3.5T4,7Q10,7 9,11T1,13", "M7,14V0L0,10H10",
+    "M9,0H2L1,6Q9,4 9,9.5T1,13", "M8,0Q1,3 1,9A4,4.5 0 1 0 9,9.5A4,4 0 0 0 1,9", "M1,0H9L4,14",
+    "M5,6.5A3.2,3.2 0 1 1 5,0A3.2,3.2 0 1 1 5,6.5A4,3.8 0 1 1 5,14A4,3.8 0 1 1 5,6.5",
+)  # fmt: skip
+
+
 def tile(number):
-    """The piece of the picture that tile 1 to 8 carries, as a little cushion."""
+    """The piece of the picture that tile 1 to 8 carries, as a little cushion with its number on it."""
     x, y = (number - 1) % TILES_A_ROW * PITCH, (number - 1) // TILES_A_ROW * PITCH
     inside = move(tile_picture(), -x - 2, -y - 2)
-    return solid(box(3, 3, TILE - 6, TILE - 6, 12), CREAM, 0, 5, inside=inside)
+    out = solid(box(3, 3, TILE - 6, TILE - 6, 12), CREAM, 0, 5, inside=inside)
+    return out + solid(ellipse(22, 22, 14), CREAM, 0, 3) + move(stroke(DIGITS[number - 1], OUTLINE, 3), 17, 15)
 
 
 def tile_sheet(sheet):
@@ -52,7 +61,8 @@ def square_room():
         x, y = BOARD_LEFT + place % 3 * PITCH, BOARD_TOP + place // 3 * PITCH
         out += flat(box(x + 2, y + 2, TILE - 4, TILE - 4, 12), shade(WOOD, 0.3))
     out += shadow(94, 546, 70, 9) + move(rabbit("sad", "drunk"), -26, 264, size=0.78, about=(120, 284))
-    return out + shadow(704, 540, 60, 8) + move(solid(box(-50, -62, 100, 100, 8), WOOD, 5) + move(tile_picture(), -42, -54, size=84 / 390), 704, 480)
+    out += shadow(706, 566, 76, 9) + limb("M664,520L652,560", DARKWOOD, 9) + limb("M748,520L760,560", DARKWOOD, 9)
+    return out + solid(box(624, 372, 164, 164, 12), WOOD, 6) + move(tile_picture(), 633, 381, size=146 / 390)
 
 
 # --- germs and spray ------------------------------------------------------------------------------
@@ -100,6 +110,8 @@ def shooter_room():
     out += flat("M-10,470Q200,420 400,452T810,440V610H-10Z", light(GREEN, 0.35)) + stroke("M-10,470Q200,420 400,452T810,440", OUTLINE, 4)
     for x in range(20, 800, 46):
         out += stroke(f"M{x},{506 + x * 7 % 60}l6,-16", shade(GREEN, 0.3), 4)
+    for x, y, colour, size in ((46, 498, YELLOW, 0.8), (132, 484, WHITE, 0.7), (236, 474, PINK, 0.8), (342, 484, YELLOW, 0.7), (446, 496, CORAL, 0.8), (522, 500, WHITE, 0.7), (772, 490, PINK, 0.7)):
+        out += flower(x, y, colour, size)
     return out + shadow(660, 470, 84, 10) + move(dog("sad", "cut"), 540, 182)
 
 

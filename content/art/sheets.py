@@ -343,6 +343,17 @@ def next_sign():
     return sheet
 
 
+def portrait(face):
+    """A frame in the reception: empty, and with the face of the patient that is well."""
+    sheet = Sheet(120, 120, 3)
+    frame = stroke("M40,22L60,4L80,22", OUTLINE, 4) + solid(box(8, 18, 104, 96, 12), WOOD, 5)
+    sheet.add("empty", frame + solid(box(22, 32, 76, 68, 6), CREAM, 0, 3) + paw_print(60, 66, 24, shade(CREAM, 0.14)))
+    well = frame + solid(box(22, 32, 76, 68, 6), light(YELLOW, 0.2), 0, 3, inside=move(face, 60, 72)) + heart(98, 34, 13) + heart(22, 100, 9, PINK)
+    sheet.add("well", well)
+    sheet.add("well-glow", glowing(well))
+    return sheet
+
+
 def medicalbook():
     sheet = Sheet(96, 92, 3)
     lying = move(book(48, 46, 1.05), turn=-8, about=(48, 46))
@@ -610,6 +621,9 @@ SHEETS = {
     "Info/Intro/freshpanel": fresh_panel,
     "Info/Floor1/hall1/hall": hall,
     "Info/Floor1/hall1/medicalbook": medicalbook,
+    "Info/Floor1/hall1/dogportrait": lambda: portrait(dog_face(0, 0, 0.95)),
+    "Info/Floor1/hall1/catportrait": lambda: portrait(cat_face(0, 2, 1.0)),
+    "Info/Floor1/hall1/rabbitportrait": lambda: portrait(rabbit_face(0, 8, 0.9)),
     "Info/Floor1/dogroom/room": dogroom,
     "Info/Floor1/dogroom/dog": dog_sheet,
     "Info/Floor1/hall1/nextsign": next_sign,

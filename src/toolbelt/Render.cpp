@@ -10,6 +10,7 @@
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
 #include "object/ForwardingObject.h"
+#include "object/GameObject.h"
 #include "toolbelt/Arguments.h"
 #include "toolbelt/ContentRun.h"
 #include "toolbelt/ObjectPath.h"

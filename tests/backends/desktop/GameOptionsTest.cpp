@@ -50,6 +50,12 @@ TEST(GameOptions, CaptionsAreAsLastChosenUnlessAWordSaysOtherwise) {
   EXPECT_EQ(Parse({"--no-captions"}).options.captions, false);
 }
 
+TEST(GameOptions, DebuggingIsDoneInAWindow) {
+  EXPECT_FALSE(Parse({}).options.debug);
+  EXPECT_TRUE(Parse({"--debug"}).options.debug);
+  EXPECT_FALSE(Parse({"--debug"}).options.window.full_screen);
+}
+
 TEST(GameOptions, AnUnknownWordIsAUsageError) {
   testing::internal::CaptureStderr();
   EXPECT_EQ(Parse({"--nonsense"}).exit_code, 2);
