@@ -34,11 +34,6 @@ class FieldInspector : public Inspector {
   StateSnapshot::Fields& fields_;
 };
 
-const GameObject* InnerOf(GameObjectInterface& object) {
-  if (auto* forwarding = dynamic_cast<ForwardingObject*>(&object)) return &forwarding->Inner();
-  return dynamic_cast<GameObject*>(&object);
-}
-
 std::string Joined(const std::vector<std::string>& words) { return JoinTokens(words, 0, ' '); }
 
 std::string FramesOf(const GameObject& object) {
@@ -54,7 +49,7 @@ StateSnapshot::Fields FieldsOf(GameObjectInterface& object) {
     inspectable->Describe(inspector);
   }
   inspector.Field("state", object.CurrentState());
-  if (const GameObject* inner = InnerOf(object)) {
+  if (const GameObject* inner = InnerObject(object)) {
     inspector.Field("frames", FramesOf(*inner));
     inspector.Field("history", Joined(inner->StateHistory()));
   }

@@ -30,7 +30,9 @@ struct ReplayTest : testing::Test {
     options.tester = 50;
     options.content_hash = [this] { return HashOfContent(content); };
     DriveSession session(files, faults, content, options);
-    std::istringstream in("answer record\nanswer tour.txt\nplay\n" + commands);
+    // The window path begins with a warning.
+    const std::string first = options.window_path ? "answer ok\n" : "";
+    std::istringstream in(first + "answer record\nanswer tour.txt\nplay\n" + commands);
     std::ostringstream answers;
     exit_code = RunDriveSession(session, in, answers);
   }
