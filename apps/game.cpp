@@ -2,6 +2,7 @@
 
 #include "backends/desktop/DesktopBackend.h"
 #include "backends/desktop/RunOnDesktop.h"
+#include "backends/files/ContentHash.h"
 #include "diagnostics/Debomb_Window.h"
 #include "shell/Application.h"
 #include "shell/AuthorMode.h"
@@ -45,6 +46,10 @@ class Onlookers {
 int Play(DesktopBackend& backend) {
   Application application(backend.GetPorts(), kEdition, backend.BaseDirectory());
   const Onlookers onlookers(backend, application);
+  if (backend.Tester()) {
+    application.SetTester({*backend.Tester(), backend.Seed(),
+                           [&backend] { return quendle::HashOfContent(backend.BaseDirectory()); }});
+  }
   application.Start();
   application.Deliver([&backend] { backend.Run(); });
   return application.GetStatus() == Application::Status::kFailed ? 1 : 0;

@@ -15,6 +15,7 @@ endif()
 set(QUENDLE_WARNINGS_AS_ERRORS AUTO CACHE STRING
     "ON, OFF, or AUTO: errors with the compiler whose warnings we keep at none")
 option(QUENDLE_SANITIZE "Compile and link with address and undefined-behaviour sanitizers" OFF)
+option(QUENDLE_FUZZ "Make the fuzz targets with libFuzzer; needs clang" OFF)
 
 # What every file of ours is compiled with, tests included.
 add_library(quendle_flags INTERFACE)
@@ -54,6 +55,11 @@ if(QUENDLE_SANITIZE)
     -Wno-maybe-uninitialized  # instrumented code defeats the flow analysis
   )
   target_link_options(quendle_flags INTERFACE ${sanitizers})
+endif()
+
+if(QUENDLE_FUZZ)
+  # All code tells the fuzzer which ways it took; only the targets have the fuzzer's main.
+  target_compile_options(quendle_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 set(fatal_warnings ${QUENDLE_WARNINGS_AS_ERRORS})

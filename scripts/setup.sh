@@ -7,7 +7,7 @@ packages=(
   libavformat-dev libavcodec-dev libavutil-dev libopenal-dev
   libcli11-dev nlohmann-json3-dev libpng-dev
   librsvg2-bin espeak-ng ffmpeg python3
-  libgtest-dev libgmock-dev clang-format clang-tidy
+  libgtest-dev libgmock-dev strace clang-format clang-tidy
 )
 
 say() { printf '%s\n' "== $*"; }

@@ -11,6 +11,7 @@ from items import *
 from rabbit import rabbit
 from shapes import *
 
+VIOLET = "#b48ad6"
 TILE, PITCH, TILES_A_ROW = 126, 130, 3
 BOARD_LEFT, BOARD_TOP = 205, 66
 
@@ -29,11 +30,20 @@ def tile_picture():
     return out + flower(196, 372, WHITE, 1.1) + grapes(330, 196, 1.1)
 
 
+# The numbers 1 to 8 as strokes in a box of 10 by 14.
+DIGITS = (
+    "M2,3L6,0V14", "M1,3Q1,0 5,0T9,4Q9,7 1,14H9", "M1,1Q9,-2 9,3.5T4,7Q10,7 9,11T1,13", "M7,14V0L0,10H10",
+    "M9,0H2L1,6Q9,4 9,9.5T1,13", "M8,0Q1,3 1,9A4,4.5 0 1 0 9,9.5A4,4 0 0 0 1,9", "M1,0H9L4,14",
+    "M5,6.5A3.2,3.2 0 1 1 5,0A3.2,3.2 0 1 1 5,6.5A4,3.8 0 1 1 5,14A4,3.8 0 1 1 5,6.5",
+)  # fmt: skip
+
+
 def tile(number):
-    """The piece of the picture that tile 1 to 8 carries, as a little cushion."""
+    """The piece of the picture that tile 1 to 8 carries, as a little cushion with its number on it."""
     x, y = (number - 1) % TILES_A_ROW * PITCH, (number - 1) // TILES_A_ROW * PITCH
     inside = move(tile_picture(), -x - 2, -y - 2)
-    return solid(box(3, 3, TILE - 6, TILE - 6, 12), CREAM, 0, 5, inside=inside)
+    out = solid(box(3, 3, TILE - 6, TILE - 6, 12), CREAM, 0, 5, inside=inside)
+    return out + solid(ellipse(22, 22, 14), CREAM, 0, 3) + move(stroke(DIGITS[number - 1], OUTLINE, 3), 17, 15)
 
 
 def tile_sheet(sheet):
@@ -51,7 +61,8 @@ def square_room():
         x, y = BOARD_LEFT + place % 3 * PITCH, BOARD_TOP + place // 3 * PITCH
         out += flat(box(x + 2, y + 2, TILE - 4, TILE - 4, 12), shade(WOOD, 0.3))
     out += shadow(94, 546, 70, 9) + move(rabbit("sad", "drunk"), -26, 264, size=0.78, about=(120, 284))
-    return out + shadow(704, 540, 60, 8) + move(solid(box(-50, -62, 100, 100, 8), WOOD, 5) + move(tile_picture(), -42, -54, size=84 / 390), 704, 480)
+    out += shadow(706, 566, 76, 9) + limb("M664,520L652,560", DARKWOOD, 9) + limb("M748,520L760,560", DARKWOOD, 9)
+    return out + solid(box(624, 372, 164, 164, 12), WOOD, 6) + move(tile_picture(), 633, 381, size=146 / 390)
 
 
 # --- germs and spray ------------------------------------------------------------------------------
@@ -69,7 +80,7 @@ def germ(colour, mood=0):
 
 
 def germ_sheet(sheet):
-    for number, colour in enumerate((GREEN, "#b48ad6", ORANGE), 1):
+    for number, colour in enumerate((GREEN, VIOLET, ORANGE), 1):
         sheet.add(f"germ{number}a", germ(colour))
         sheet.add(f"germ{number}b", move(germ(colour, 1), 0, -2))
     return sheet
@@ -81,8 +92,12 @@ def spray_sheet(sheet):
     return sheet
 
 
+def drop(x, y):
+    return move(solid("M11,2Q20,14 20,20A9,9 0 0 1 2,20Q2,14 11,2Z", SKY, 3, 3, glint=(7, 20, 2, 4)), x, y)
+
+
 def drop_sheet(sheet):
-    sheet.add("drop", solid("M11,2Q20,14 20,20A9,9 0 0 1 2,20Q2,14 11,2Z", SKY, 3, 3, glint=(7, 20, 2, 4)))
+    sheet.add("drop", drop(0, 0))
     sheet.add("splash", sparkle(11, 15, 11, WHITE))
     return sheet
 
@@ -95,6 +110,8 @@ def shooter_room():
     out += flat("M-10,470Q200,420 400,452T810,440V610H-10Z", light(GREEN, 0.35)) + stroke("M-10,470Q200,420 400,452T810,440", OUTLINE, 4)
     for x in range(20, 800, 46):
         out += stroke(f"M{x},{506 + x * 7 % 60}l6,-16", shade(GREEN, 0.3), 4)
+    for x, y, colour, size in ((46, 498, YELLOW, 0.8), (132, 484, WHITE, 0.7), (236, 474, PINK, 0.8), (342, 484, YELLOW, 0.7), (446, 496, CORAL, 0.8), (522, 500, WHITE, 0.7), (772, 490, PINK, 0.7)):
+        out += flower(x, y, colour, size)
     return out + shadow(660, 470, 84, 10) + move(dog("sad", "cut"), 540, 182)
 
 
@@ -112,13 +129,20 @@ def mud_sheet(sheet):
     return sheet
 
 
-def soap_bubble(cx, cy, r):
-    out = solid(ellipse(cx, cy, r), SKY, 3, 3, glint=(cx - r * 0.35, cy - r * 0.4, r * 0.28, r * 0.2))
-    return out + stroke(f"M{n(cx + r * 0.55)},{n(cy + r * 0.1)}Q{n(cx + r * 0.45)},{n(cy + r * 0.5)} {n(cx + r * 0.1)},{n(cy + r * 0.6)}", WHITE, 3)
+def foam(cx, cy, r):
+    """A puff of the foam that stands still."""
+    return solid(ellipse(cx, cy, r), WHITE, 4, 3) + stroke(f"M{n(cx - r * 0.45)},{n(cy - r * 0.3)}Q{n(cx - r * 0.2)},{n(cy - r * 0.55)} {n(cx + r * 0.1)},{n(cy - r * 0.55)}", light(SKY, 0.2), 3)
+
+
+def play_bubble(cx, cy, r):
+    """The bubble that is played: violet with a rainbow, so that it stands out from all foam."""
+    rainbow = "".join(stroke(f"M{n(cx - r * 0.62)},{n(cy + r * (0.34 - k * 0.17))}Q{n(cx)},{n(cy + r * (1.02 - k * 0.17))} {n(cx + r * 0.62)},{n(cy + r * (0.34 - k * 0.17))}", colour, r * 0.17)
+                      for k, colour in enumerate((CORAL, YELLOW, TEAL)))  # fmt: skip
+    return solid(ellipse(cx, cy, r), VIOLET, 3, 3.5, inside=rainbow, glint=(cx - r * 0.32, cy - r * 0.42, r * 0.32, r * 0.22))
 
 
 def bubble_sheet(sheet):
-    sheet.add("bubble", soap_bubble(18, 18, 16))
+    sheet.add("bubble", play_bubble(18, 18, 16))
     return sheet
 
 
@@ -140,7 +164,7 @@ def brick_room():
     out += solid("M380,356H742Q752,356 748,376L730,452Q722,486 690,486H432Q400,486 392,452L372,376Q368,356 380,356Z", WHITE, 9)
     out += stroke("M372,376H748", shade(WHITE, 0.2), 4)
     for x, y, r in ((404, 350, 22), (440, 342, 26), (484, 350, 22), (640, 350, 24), (684, 344, 27), (724, 352, 20), (600, 354, 18), (528, 354, 18)):
-        out += soap_bubble(x, y, r)
+        out += foam(x, y, r)
     return out
 
 
@@ -200,30 +224,37 @@ def hint(sheet, sign):
     return sheet
 
 
+def falls(x, y, s=1.0):
+    """A drop on its way, with the lines of its haste above it."""
+    return move(drop(0, 0) + stroke("M4,-8V-16M11,-12V-24M18,-8V-16", OUTLINE, 3), x, y, size=s)
+
+
 def square_hint():
-    small = solid(box(-4, -4, 148, 148, 10), WOOD, 0) + move(tile_picture(), 0, 0, size=140 / 390)
-    piece = move(tile(5), 0, 0, size=0.5)
-    return move(piece, 44, 70) + arrow(128, 100, 0.8, fill=YELLOW) + hand(66, 146, 1.2) + move(small, 164, 34) + move(cog_button(360, 100, 36, GREEN, tick(360, 97, 0.85)), 0, 0)
+    small = solid(box(-5, -5, 190, 190, 12), WOOD, 0) + move(tile_picture(), 0, 0, size=180 / 390)
+    piece = move(tile(5), 0, 0, size=0.72)
+    return move(piece, 44, 62) + arrow(158, 108, 0.9, fill=YELLOW) + hand(92, 150, 1.5) + move(small, 206, 42) + cog_button(74, 238, 32, GREEN, tick(74, 235, 0.75)) + star(132, 236, 20) + star(182, 240, 14)
 
 
 def shooter_hint():
-    out = move(germ(GREEN), 56, 36) + move(germ("#b48ad6"), 136, 36) + antiseptic(106, 152, 0.95)
-    out += "".join(move(solid("M11,2Q20,14 20,20A9,9 0 0 1 2,20Q2,14 11,2Z", SKY, 3, 3), 82, y) for y in (98,))
-    out += hand(174, 160, 1.3) + arrow(240, 100, 0.9, fill=YELLOW)
-    return out + sparkle(306, 60, 24, YELLOW) + sparkle(366, 84, 16) + dog_face(330, 134, 1.05)
+    out = move(germ(GREEN), 48, 36) + falls(88, 112, 0.9).replace("M4,-8V-16M11,-12V-24M18,-8V-16", "M4,38V46M11,42V54M18,38V46") + antiseptic(102, 196, 0.95)
+    out += hand(160, 214, 1.3) + cog_button(150, 62, 24, GREEN, tick(150, 60, 0.6)) + stroke("M196,44V240", YELLOW, 5)
+    out += move(germ(VIOLET), 210, 36) + falls(231, 126) + antiseptic(238, 212, 0.95) + cog_button(312, 62, 24, CORAL, no_cross(312, 60, 0.58))
+    return out + arrow(284, 206, 0.6, fill=YELLOW) + dog_face(370, 118, 1.0) + sparkle(396, 62, 13, YELLOW)
 
 
 def brick_hint():
     mud = solid(box(1, 1, 48, 48, 9), DARKWOOD, 5, 3) + flat(ellipse(18, 22, 4), WHITE) + flat(ellipse(32, 22, 4), WHITE)
-    out = move(mud, 50, 36) + move(mud, 102, 36) + soap_bubble(150, 112, 16) + stroke("M166,130L184,148", OUTLINE, 3) + stroke("M128,100L110,90", OUTLINE, 3)
-    out += move(solid(box(0, 0, 110, 26, 10), PINK, 5), 104, 154) + arrow(66, 168, 0.6, turn=180, fill=YELLOW) + arrow(256, 168, 0.6, fill=YELLOW)
-    return out + arrow(268, 86, 0.8, fill=YELLOW) + cat_face(350, 96, 1.2) + sparkle(392, 48, 12)
+    out = move(mud, 46, 34) + move(mud, 98, 34) + play_bubble(166, 118, 20) + stroke("M156,142L146,168M140,104L124,94", OUTLINE, 3)
+    out += move(solid(box(0, 0, 140, 34, 12), PINK, 5, glint=(36, 8, 22, 3)) + heart(70, 17, 7), 90, 190)
+    out += arrow(58, 206, 0.75, turn=180, fill=YELLOW) + arrow(264, 206, 0.75, fill=YELLOW) + hand(112, 244, 1.3)
+    return out + arrow(262, 92, 0.9, fill=YELLOW) + cat_face(346, 98, 1.3) + sparkle(392, 46, 13)
 
 
 def bobble_hint():
-    out = move(bug(FLEA_COLOURS[0]), 46, 44) + hand(108, 108, 1.4) + cog_button(150, 76, 26, GREEN, tick(150, 73, 0.65))
-    out += stroke("M212,40V176", YELLOW, 5)
-    return out + move(butterfly(), 246, 44) + hand(312, 108, 1.4) + cog_button(360, 76, 26, CORAL, no_cross(360, 74, 0.65))
+    out = move(bug(FLEA_COLOURS[0]), 46, 52, size=1.3) + hand(118, 138, 1.6) + cog_button(160, 92, 28, GREEN, tick(160, 89, 0.7))
+    out += stroke("M212,40V240", YELLOW, 5) + star(70, 208, 18) + star(112, 216, 18) + star(154, 208, 18)
+    out += move(butterfly(), 242, 52, size=1.3) + hand(318, 138, 1.6) + cog_button(370, 92, 28, CORAL, no_cross(370, 89, 0.7))
+    return out + heart(258, 210, 17) + stroke("M234,232L282,188", OUTLINE, 9) + stroke("M234,232L282,188", WHITE, 4)
 
 
 # --- buttons and counters -------------------------------------------------------------------------
@@ -253,12 +284,32 @@ def star_counter(sheet):
     return sheet
 
 
+def germ_counter(sheet):
+    """Twelve places: the germs that are left, and a star for each that is gone."""
+    for left in range(13):
+        out = solid(box(2, 2, 466, 40, 18), CREAM, 0, 3)
+        for i in range(12):
+            out += move(germ(GREEN), 14 + i * 37.5, 8, size=0.48) if i < left else star(29 + i * 37.5, 23, 11)
+        sheet.add(f"germs{left}", out)
+    return sheet
+
+
+def heart_counter(sheet):
+    """Five hearts, of which 5 to 0 are left."""
+    for left in range(5, -1, -1):
+        out = solid(box(2, 2, 136, 32, 15), CREAM, 0, 3)
+        for i in range(5):
+            out += heart(20 + i * 25, 18, 9) if i < left else flat(heart_path(20 + i * 25, 18, 8), shade(CREAM, 0.14))
+        sheet.add(f"hearts{left}", out)
+    return sheet
+
+
 def bubble_counter(sheet):
     """The bubbles that are left: three, two, one."""
     for left in (3, 2, 1):
         out = solid(box(2, 2, 128, 44, 20), CREAM, 0, 3)
         for i in range(3):
-            out += soap_bubble(26 + i * 40, 24, 14) if i < left else flat(ellipse(26 + i * 40, 24, 11), shade(CREAM, 0.12))
+            out += play_bubble(26 + i * 40, 24, 14) if i < left else flat(ellipse(26 + i * 40, 24, 11), shade(CREAM, 0.12))
         sheet.add(f"bubbles{left}", out)
     return sheet
 
@@ -303,4 +354,6 @@ def arcade_sheets(make_sheet, add_states):
         shared + "replay": lambda: replay_button(make_sheet(184, 184, 3), add_states),
         shared + "stars": cells(312, 36, 2, star_counter),
         shared + "bubbles": cells(132, 48, 3, bubble_counter),
+        shared + "germs": cells(470, 44, 2, germ_counter),
+        shared + "hearts": cells(140, 36, 2, heart_counter),
     }

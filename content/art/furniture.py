@@ -129,6 +129,24 @@ def door_leaf(colour, sign, open_door=False):
     return out
 
 
+def lift_leaf(colour, open_door=False):
+    """The elevator's double door in the frame of a door, with its two arrows above."""
+    out = solid("M6,228V18Q6,6 18,6H114Q126,6 126,18V228Z", CREAM, 4)
+    out += solid(box(24, 14, 84, 34, 12), shade(LAVENDER, 0.4), 0, 3)
+    for x, up in ((48, True), (84, False)):
+        lit = YELLOW if open_door else light(YELLOW, 0.3)
+        out += solid(poly((x - 12, 38), (x + 12, 38), (x, 21)) if up else poly((x - 12, 24), (x + 12, 24), (x, 41)), lit, 0, 2.5)
+    out += solid(box(18, 56, 96, 172, 4), "#ffe9a6" if open_door else shade(colour, 0.3), 0, 3)
+    for side in (0, 1):
+        x = (18, 66)[side] if not open_door else (18, 94)[side]
+        out += solid(box(x, 56, 48 if not open_door else 20, 172, 3), colour, 4, 3.5)
+        if not open_door:
+            out += stroke(f"M{x + 14},72V212", light(colour, 0.6), 4)
+    if open_door:
+        out += flat(box(40, 176, 52, 50, 3), WOOD) + solid(ellipse(66, 100, 9), YELLOW, 0, 3) + solid(ellipse(66, 128, 9), GREEN, 0, 3)
+    return out
+
+
 def sign_plate(sign, fill=CREAM):
     """The round plate on a door."""
     return solid(ellipse(66, 84, 40), fill, 4) + sign
@@ -199,12 +217,6 @@ def flower(x, y, colour, s=1.0):
         a = math.radians(i * 72 - 90)
         out += solid(ellipse(8 * math.cos(a), -32 + 8 * math.sin(a), 6.5), colour, 0, 3)
     return move(out + solid(ellipse(0, -32, 5), YELLOW, 0, 2.5), x, y, size=s)
-
-
-def bench(x, y, w, h, colour):
-    """A waiting bench standing on y + h."""
-    out = limb(f"M{x + 18},{y + 16}V{y + h - 5}", DARKWOOD, 12) + limb(f"M{x + w - 18},{y + 16}V{y + h - 5}", DARKWOOD, 12)
-    return out + solid(box(x, y, w, 26, 10), colour, 5) + stroke(f"M{x + 16},{y + 9}H{x + w * 0.6}", light(colour, 0.7), 4)
 
 
 def wool(cx, cy, r):

@@ -116,17 +116,50 @@ def hall():
 
 def hall2():
     out = wall(light(YELLOW, 0.45), "hearts")
-    out += bunting(150, 590, 34, (TEAL, PINK, YELLOW, CORAL, GREEN))
+    out += bunting(136, 456, 30, (TEAL, PINK, YELLOW, CORAL, GREEN))
     out += poster(50, 84, 74, 86, cross_sign(87, 130, 20), WHITE)
-    out += window(474, 96, 104, 112) + curtains(474, 96, 104, 112, CORAL)
-    out += sunbeam(((474, 228), (578, 228), (566, 458), (400, 458)))
+    out += window(474, 84, 104, 104) + curtains(474, 84, 104, 104, CORAL)
     out += clock(716, 76, 40)
     out += rug(300, 484, 250, 17, TEAL, CREAM)
-    for x in (84, 229, 374):
+    for x in (84, 229, 374, 519):
         out += shadow(x, 461, 66, 5)
-    out += shadow(526, 474, 74, 8) + bench(458, 392, 134, 80, GREEN) + ball(494, 376, 17) + plant(562, 392, 0.5)
     out += shadow(700, 482, 66, 8)
     return screen(out)
+
+
+def elevator():
+    """The cabin: the board with the two buttons at the left, its double door in the middle."""
+    out = flat("M0,0H800V600H0Z", light(LAVENDER, 0.25))
+    for x in range(0, 840, 100):
+        out += flat(box(x + 6, 40, 88, 400, 10), light(LAVENDER, 0.5)) + stroke(f"M{x + 18},58V420", WHITE, 4)
+    out += flat("M0,0H800V40H0Z", shade(LAVENDER, 0.2)) + stroke("M0,40H800", OUTLINE, 4)
+    for x in (170, 430, 690):
+        out += sunbeam(((x - 50, 40), (x + 50, 40), (x + 120, 420), (x - 120, 420))) + solid(box(x - 56, 28, 112, 18, 8), YELLOW, 0, 3)
+    out += flat("M0,440H800V600H0Z", CORAL) + stroke("M0,440H800", OUTLINE, 4)
+    for row in range(4):
+        for col in range(11):
+            if (row + col) % 2:
+                out += flat(box(col * 76 - 20, 444 + row * 40, 76, 40, 0), light(CORAL, 0.3))
+    out += solid(box(282, 78, 292, 364, 14), CREAM, 8)
+    out += solid(box(306, 136, 244, 306, 4), shade(LAVENDER, 0.4), 0)
+    for x in (306, 428):
+        out += solid(box(x, 136, 122, 306, 4), shade(LAVENDER, 0.12), 6) + stroke(f"M{x + 24},160V416", light(LAVENDER, 0.7), 6)
+    out += solid(box(352, 90, 152, 36, 16), OUTLINE, 0, 0)
+    out += arrow(388, 108, 0.62, turn=-90, fill=YELLOW) + arrow(468, 108, 0.62, turn=90, fill=YELLOW)
+    out += stroke("M250,404H274M582,404H780", OUTLINE, 15) + stroke("M250,404H274M582,404H780", WOOD, 8)
+    out += solid(box(34, 66, 216, 414, 26), WOOD, 9) + stroke(box(46, 78, 192, 390, 18), shade(WOOD, 0.3), 4)
+    return screen(out + shadow(700, 482, 66, 8))
+
+
+def lift_button(floor):
+    """A round button with the patients of its floor, and as many dots as the floor has for a number."""
+    sheet = Sheet(176, 176, 2)
+    faces = dog_face(88, 74, 1.15) if floor == 1 else cat_face(58, 78, 0.95) + rabbit_face(116, 80, 0.95)
+    dots = "".join(solid(ellipse(88 + (i - (floor - 1) / 2) * 26, 128, 9), WHITE, 0, 3) for i in range(floor))
+    piece = cog_button(88, 88, 80, (YELLOW, GREEN)[floor - 1], faces + dots)
+    sheet.add("rest", piece)
+    sheet.add("glow", glowing(piece))
+    return sheet
 
 
 def catroom():
@@ -229,7 +262,9 @@ def add_states(sheet, name, piece):
 
 def intro_buttons():
     sheet = Sheet(184, 184, 3)
-    add_states(sheet, "start", cog_button(92, 92, 80, GREEN, triangle(92, 88, 1.5)))
+    start = cog_button(92, 92, 80, GREEN, triangle(92, 88, 1.5))
+    add_states(sheet, "start", start)
+    sheet.add("start-hop", move(start, 0, -4, size=1.03, about=(92, 92)))
     return sheet
 
 
@@ -272,6 +307,13 @@ def door(colour, sign):
     return sheet
 
 
+def lift_door():
+    sheet = Sheet(132, 234, 2)
+    sheet.add("shut", lift_leaf(LAVENDER))
+    sheet.add("open", glowing(lift_leaf(LAVENDER, True), 0))
+    return sheet
+
+
 # The colour and the sign of each door. An object loads its whole picture, so each has its own.
 DOORS = {
     "homedoor": lambda: door(CORAL, house(66, 84, 1.0)),
@@ -281,6 +323,7 @@ DOORS = {
     "hall2door": lambda: door(YELLOW, hall_sign(66, 84)),
     "catdoor": lambda: door(GREEN, cat_face(66, 86, 0.95)),
     "rabbitdoor": lambda: door(PINK, rabbit_face(66, 90, 0.85)),
+    "liftdoor": lambda: lift_door(),
 }
 
 
@@ -300,11 +343,23 @@ def next_sign():
     return sheet
 
 
+def portrait(face):
+    """A frame in the reception: empty, and with the face of the patient that is well."""
+    sheet = Sheet(120, 120, 3)
+    frame = stroke("M40,22L60,4L80,22", OUTLINE, 4) + solid(box(8, 18, 104, 96, 12), WOOD, 5)
+    sheet.add("empty", frame + solid(box(22, 32, 76, 68, 6), CREAM, 0, 3) + paw_print(60, 66, 24, shade(CREAM, 0.14)))
+    well = frame + solid(box(22, 32, 76, 68, 6), light(YELLOW, 0.2), 0, 3, inside=move(face, 60, 72)) + heart(98, 34, 13) + heart(22, 100, 9, PINK)
+    sheet.add("well", well)
+    sheet.add("well-glow", glowing(well))
+    return sheet
+
+
 def medicalbook():
-    sheet = Sheet(96, 92, 2)
+    sheet = Sheet(96, 92, 3)
     lying = move(book(48, 46, 1.05), turn=-8, about=(48, 46))
     sheet.add("book", lying)
     sheet.add("book-glow", glowing(lying))
+    sheet.add("book-sparkle", lying + sparkle(80, 14, 12, YELLOW) + sparkle(14, 74, 10, WHITE))
     return sheet
 
 
@@ -409,7 +464,17 @@ def dog_sheet():
     for i, (hop, tail) in enumerate(((0, 1), (14, 0), (22, 1), (14, 0), (0, 1))):
         hearts = heart(30, 60 - i * 7, 10 + i) + heart(222, 50 - i * 5, 8 + i, PINK) if i else ""
         sheet.add(f"jump{i + 1}", dog("joy", "bandaid", tail, hop=hop) + hearts)
+    for name, paw in (("sad", "cut"), ("hope", "clean")):
+        sheet.add(f"{name}-pet1", dog("hopeblink", paw, 0) + petted(1))
+        sheet.add(f"{name}-pet2", dog("hopeblink", paw, 1, breath=2) + petted(2))
     return sheet
+
+
+def petted(beat):
+    """The hearts that fly while a patient is petted; they rise from beat 1 to 2."""
+    if beat == 1:
+        return heart(26, 70, 12)
+    return heart(28, 46, 14) + heart(226, 60, 10, PINK)
 
 
 def patient_sheet(draw, looks, well):
@@ -438,6 +503,9 @@ def patient_sheet(draw, looks, well):
     for i, hop in enumerate((14, 22)):
         hearts = heart(30, 60 - i * 14, 10 + i) + heart(222, 50 - i * 10, 8 + i, PINK) + sparkle(196 - i * 10, 16 + i * 6, 9, YELLOW)
         add(f"jump{i + 1}", draw("joy", well, pose=i, hop=hop) + hearts)
+    for number, look in enumerate(looks):
+        for beat in (1, 2):
+            add(f"step{number}-pet{beat}", draw("hopeblink", look, pose=beat - 1, breath=(beat - 1) * 3) + petted(beat))
     return sheet
 
 
@@ -553,6 +621,9 @@ SHEETS = {
     "Info/Intro/freshpanel": fresh_panel,
     "Info/Floor1/hall1/hall": hall,
     "Info/Floor1/hall1/medicalbook": medicalbook,
+    "Info/Floor1/hall1/dogportrait": lambda: portrait(dog_face(0, 0, 0.95)),
+    "Info/Floor1/hall1/catportrait": lambda: portrait(cat_face(0, 2, 1.0)),
+    "Info/Floor1/hall1/rabbitportrait": lambda: portrait(rabbit_face(0, 8, 0.9)),
     "Info/Floor1/dogroom/room": dogroom,
     "Info/Floor1/dogroom/dog": dog_sheet,
     "Info/Floor1/hall1/nextsign": next_sign,
@@ -563,6 +634,9 @@ SHEETS = {
     "Info/Floor1/rabbitroom/rabbit": rabbit_sheet,
     "Info/Floor1/emptyroom1/room": emptyroom,
     "Info/Floor1/emptyroom1/basket": tool_basket,
+    "Info/Elevator/room": elevator,
+    "Info/Elevator/lift1button": lambda: lift_button(1),
+    "Info/Elevator/lift2button": lambda: lift_button(2),
     "Info/Book/book": bookscreen,
     "Info/Book/back": book_back,
     "Info/Doctor/doctor": doctor_sheet,

@@ -121,7 +121,56 @@ def rabbitjoy():
     return mix((0, thump), (0.14, thump), (0.3, squeak), (0.5, squeak))
 
 
-EFFECTS = {f.__name__: f for f in (click, door, take, back, page, cure, dogow, dogjoy, catow, catjoy, rabbitow, rabbitjoy)}
+def dogpet():
+    """A contented little whine, panting."""
+    pant = noise(0.1, 0.5, 0.45, 0.05, 9)
+    return mix((0, tone(0.3, (520, 640, 480), 0.5, SOFT, 0.05, None, (8, 0.02))), (0.34, pant), (0.5, pant), (0.66, pant))
+
+
+def catpet():
+    """A purr."""
+    return [v * (0.55 + 0.45 * math.sin(2 * math.pi * 25 * i / RATE)) for i, v in enumerate(tone(0.8, (88, 96, 90), 0.9, REED, 0.08))]
+
+
+def rabbitpet():
+    """Two soft, low squeaks: the teeth are ground in comfort."""
+    return mix((0, tone(0.2, (700, 820), 0.6, SOFT, 0.04)), (0.24, tone(0.26, (760, 900, 780), 0.6, SOFT, 0.05)))
+
+
+def pop():
+    """Something small bursts."""
+    return mix((0, tone(0.09, (320, 1150), 1.0, SOFT, 0.002, 0.05)), (0.05, noise(0.1, 0.6, 0.2, 0.02, 5)), (0.07, bell(0.2, 1568, 0.4, 0.08)))
+
+
+def spray():
+    """A puff of the bottle."""
+    return mix((0, noise(0.2, 0.9, 0.15, 0.07, 6)), (0, tone(0.06, (700, 400), 0.4, SOFT, 0.002, 0.02)))
+
+
+def boing():
+    """The bubble bounces."""
+    return tone(0.22, (280, 520, 440), 0.9, SOFT, 0.004, 0.09, (18, 0.05))
+
+
+def splat():
+    """A lump of mud comes off."""
+    return mix((0, tone(0.16, (260, 110), 0.9, SOFT, 0.003, 0.06)), (0.01, noise(0.16, 0.8, 0.6, 0.05, 8)), (0.09, bell(0.25, 1319, 0.4, 0.09)))
+
+
+def lift():
+    """The elevator hums and rings."""
+    return mix((0, tone(0.45, (90, 130, 120), 0.5, REED, 0.06)), (0.42, bell(0.36, 1319, 0.9)), (0.42, bell(0.36, 1047, 0.4)))
+
+
+def oops():
+    """Something went wrong, and it isn't bad: two notes going down."""
+    return mix((0, tone(0.2, (523, 494), 0.8, SOFT, 0.01, 0.14)), (0.18, tone(0.34, (392, 330), 0.8, SOFT, 0.01, 0.18, (7, 0.02))))
+
+
+EFFECTS = {f.__name__: f for f in (
+    click, door, take, back, page, cure, dogow, dogjoy, dogpet, catow, catjoy, catpet, rabbitow, rabbitjoy, rabbitpet,
+    pop, spray, boing, splat, lift, oops,
+)}  # fmt: skip
 
 
 def padded(samples):

@@ -30,7 +30,8 @@ void DepthGuard::Refuse() {
   Note();
   throw FatalError("more than " + std::to_string(WorkDepth::kLimit) +
                    " levels deep: the content goes round in circles at " + Noun(work_) + " \"" +
-                   std::string(text_) + "\"");
+                       std::string(text_) + "\"",
+                   origin_ == nullptr ? FilePlace{} : *origin_);
 }
 
 void DepthGuard::Note() noexcept {

@@ -2,12 +2,13 @@
 
 #include <utility>
 
+#include "base/Watch.h"
 #include "diagnostics/Debomb_Window.h"
 
 namespace quendle {
 
-TestingObject::TestingObject(FileSystem& files, std::string base_directory)
-    : files_(files), base_directory_(std::move(base_directory)) {}
+TestingObject::TestingObject(FileSystem& files, std::string base_directory, Watch* watch)
+    : files_(files), base_directory_(std::move(base_directory)), watch_(watch) {}
 
 void TestingObject::Initialize(const std::string& category, const std::string& file_name,
                                ObjectRef object, std::int16_t level) {
@@ -26,6 +27,7 @@ void TestingObject::RegisterNewEventFile(const std::string& category, const std:
 
 void TestingObject::LogEvent(std::string_view message, int level, std::string_view category) {
   if (thresholds_.Item(category) < level) return;
+  if (watch_ != nullptr) watch_->Trace(TraceKind::kLog, category, "", message);
   if (mirror_ != nullptr) mirror_->PutOnTop(message);
   if (write_to_file_) {
     streams_.Item(category)->WriteLine(message);

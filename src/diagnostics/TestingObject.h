@@ -14,13 +14,15 @@ namespace quendle {
 
 class ContentFiles;
 struct Debomb_Window;
+struct Watch;
 
 // The game's one logger: a text file and a threshold for each category. Each line is on the disk
 // before LogEvent returns.
 class TestingObject : public EventSink {
  public:
-  // `files` must outlive the log; `base_directory` is where the files are made.
-  TestingObject(FileSystem& files, std::string base_directory);
+  // `files` must outlive the log; `base_directory` is where the files are made. What is logged is
+  // traced by `watch`, which must outlive the log too; null for none.
+  TestingObject(FileSystem& files, std::string base_directory, Watch* watch = nullptr);
 
   // Creates the file of a category in place of any old one. `object` may be null and is only kept.
   // A category that is registered, or a file that can't be made, is fatal.
@@ -43,6 +45,7 @@ class TestingObject : public EventSink {
  private:
   FileSystem& files_;
   std::string base_directory_;
+  Watch* watch_;
   bool write_to_file_ = true;
   Debomb_Window* window_ = nullptr;
   Debomb_Window* mirror_ = nullptr;

@@ -6,6 +6,7 @@
 #include "base/Numbers.h"
 #include "base/Settings.h"
 #include "base/Watch.h"
+#include "logic/InputRecorder.h"
 #include "media/DShowObj.h"
 #include "media/Graphics.h"
 #include "media/MediaWorld.h"
@@ -22,6 +23,8 @@ constexpr const char* kSavedGame = "userdata.txt";
 constexpr int kAutosaveDraws = 1200;  // once a minute
 constexpr std::int32_t kMusicVolume = -400;
 constexpr int kWarningLevel = 10;
+// Deeper than a message of its own, an event comes from content.
+constexpr int kDeepestInput = 1;
 
 // Where the hot spot and the child's picture lie against the pointer's position.
 constexpr Point kPointerOffset{16, 8};
@@ -121,6 +124,9 @@ void GameLogicLayer::Release() {
   KillDrawTimer();
   DropBackBuffer();
   m_ptrMusic.reset();
+  walk_ = nullptr;
+  if (std::shared_ptr<InputRecorder> tester = m_ptrTester.lock()) tester->Detach();
+  m_ptrTester.reset();
 }
 
 void GameLogicLayer::KillDrawTimer() {
@@ -141,7 +147,17 @@ void GameLogicLayer::DropBackBuffer() {
   if (back_bitmap_ != 0) world_.media.ports.gdi.DeleteObject(std::exchange(back_bitmap_, 0));
 }
 
+// A recorded event of content would come twice when the record is played.
+void GameLogicLayer::TellTester(const char* action, std::int16_t x, std::int16_t y) {
+  if (world_.watch.depth.Depth() > kDeepestInput) return;
+  if (std::shared_ptr<InputRecorder> tester = m_ptrTester.lock()) {
+    tester->RecordUserAction(std::string(action) + "_" + std::to_string(x) + "_" +
+                             std::to_string(y));
+  }
+}
+
 void GameLogicLayer::MapMouseClick(std::int16_t x, std::int16_t y) {
+  TellTester("mouseclick", x, y);
   PlaceAt(m_ptrCursorObject, x, y, kPointerOffset);
   TraceClick(Point{x, y}, false);
   const ActionText& action = world_.scripts.actions.Get(m_strCurrentCursor + "mouseclick");
@@ -164,6 +180,7 @@ void GameLogicLayer::TraceClick(std::optional<Point> begin, bool skipped) {
 }
 
 void GameLogicLayer::MapMouseCoords(std::int16_t x, std::int16_t y) {
+  TellTester("mousemove", x, y);
   if (world_.media.settings.PersonalizeOn) PlaceAt(m_ptrPersonCursor, x, y, kPersonOffset);
   PlaceAt(m_ptrCursorObject, x, y, kPointerOffset);
   const ActionText& action = world_.scripts.actions.Get(m_strCurrentCursor + "mouseover");

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Words.h"
@@ -14,7 +16,9 @@
 namespace quendle {
 
 class ActionText;
+class InputRecorder;
 class SoundState;
+struct ScreenWalk;
 
 // Which one-time help has been given; the order is that of "HelpSys.txt".
 struct HelpMemory {
@@ -58,9 +62,20 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void HandleMessage(const std::string& message, GameObjectInterface* sender, bool verifying,
                      bool& result) override;
 
+  // The verification walk whose steps follow; null for none. It may be looked at between steps.
+  void SetScreenWalk(std::shared_ptr<ScreenWalk> walk) { walk_ = std::move(walk); }
+  // One step of the long walk: on each screen five rounds of all words, each a click on the patient
+  // with the tool of that name; then the next screen; at last the walk's timer is killed and the
+  // game ends itself. A step without a walk is fatal.
+  void EnumerateScreenVerification();
+  // One step of the short walk, which only goes to each screen.
+  void EnumerateScreen2Verification();
+
   // The focus is lost or found: the music pauses, and goes on where it was.
   void PauseSound();
   void PlaySound();
+  // What the player does is told to this recorder until Release. What content sends itself is not.
+  void SetTester(std::weak_ptr<InputRecorder> tester) { m_ptrTester = std::move(tester); }
   // Keeps what play has changed in "autosave.txt". False when none was written; a failure is
   // logged.
   bool Autosave();
@@ -114,6 +129,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void EndExitOnDemand(Call& call);
   void ExitGame(Call& call);
 
+  void TellTester(const char* action, std::int16_t x, std::int16_t y);
   ObjectRef RequireScreen(const std::string& name);
   void SendToCurrent(const std::string& message);
   void SendToTools(const std::string& message);
@@ -130,6 +146,9 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void MakeBackBuffer(ContextHandle window_context);
   void DropBackBuffer();
   void KillDrawTimer();
+  void TakeWalkStep(const std::function<void(ScreenWalk&)>& step);
+  void VisitScreen(const ScreenWalk& walk);
+  void EndWalk(ScreenWalk& walk);
 
   ObjectWorld& world_;
   GameHost& host_;
@@ -158,8 +177,10 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   bool m_bDialogActive = false;
   bool m_bSkipNextClick = false;
   HelpMemory help_;
+  std::weak_ptr<InputRecorder> m_ptrTester;
   bool music_paused_ = false;  // by a loss of focus, while it played
   double music_position_ = 0;  // seconds, where it was paused
+  std::shared_ptr<ScreenWalk> walk_;
 };
 
 }  // namespace quendle

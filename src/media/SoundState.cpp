@@ -15,7 +15,8 @@ namespace {
 
 constexpr int kLogLevel = 1;
 
-// Every occurrence, also in the name of a folder.
+}  // namespace
+
 std::string PlayedPath(std::string path) {
   for (std::size_t at = FindNoCase(path, ".wav"); at != std::string::npos;
        at = FindNoCase(path, ".wav", at)) {
@@ -23,8 +24,6 @@ std::string PlayedPath(std::string path) {
   }
   return path;
 }
-
-}  // namespace
 
 SoundState::SoundState(MediaWorld& world) : world_(world) {}
 

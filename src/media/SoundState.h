@@ -12,6 +12,9 @@ namespace quendle {
 class DShowObj;
 struct MediaWorld;
 
+// The file that is played for a path: every ".wav" becomes ".wma", also in the name of a folder.
+std::string PlayedPath(std::string path);
+
 // A named sound. With a parent it plays through the parent's one player, so that the parent says
 // one thing at a time; without one it has a player of its own. A sound whose file isn't found
 // stays silent and never fails.

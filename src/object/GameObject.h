@@ -195,8 +195,7 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   const std::string& GetRegionAtPoint(int x, int y);
 
   // Statements.
-  std::string SubstituteTokens(const Statement& statement);
-  std::string IncrementState() const;
+  std::string SubstituteTokensOf(const Statement& statement);
   bool VerifyStatement(StatementVerb verb, const std::string& argument);
 
   // Messages: a row each.

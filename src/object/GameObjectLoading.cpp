@@ -25,9 +25,6 @@
 namespace quendle {
 namespace {
 
-constexpr std::string_view kRootNameToken = "<RootObjectName>\\";
-constexpr std::string_view kNameToken = "<ObjectName>";
-
 // Resolves the stored paths of one object.
 class ObjectPaths : public PathResolver {
  public:
@@ -204,11 +201,7 @@ void GameObject::TakeSizeOfFirstFrame() {
 }
 
 std::string GameObject::LoadCurrentDirectory(const std::string& path) {
-  std::string resolved = ResolveDirectoryTokens(ObjDirectory_, path);
-  if (ContainsNoCase(resolved, kRootNameToken)) {
-    return SF_replace(resolved, kRootNameToken, StripToolWords(ObjectName_) + "\\");
-  }
-  return SF_replace(resolved, kNameToken, ObjectName_);
+  return ResolveObjectPath(ObjDirectory_, ObjectName_, path);
 }
 
 void GameObject::LoadChildrenObjects(const std::string& path, ContextHandle context) {

@@ -1,22 +1,11 @@
 // The four statements of a script, carried out on a GameObject.
 
-#include "base/Numbers.h"
-#include "base/SF_Strings.h"
 #include "base/Watch.h"
 #include "object/GameObject.h"
+#include "object/StatementTokens.h"
 #include "script/Statement.h"
 
 namespace quendle {
-namespace {
-
-// Replaces the first `token` in the text; false when it isn't there.
-bool ReplaceToken(std::string& text, std::string_view token, const std::string& value) {
-  if (!ContainsNoCase(text, token)) return false;
-  text = SF_replace(text, token, value);
-  return true;
-}
-
-}  // namespace
 
 void GameObject::Interpret(const Statement& statement, bool verifying, bool& result) {
   DepthGuard guard(world_.watch.depth, Work::kScript, statement.Text(), this, &statement.Origin());
@@ -33,7 +22,7 @@ void GameObject::Interpret(const Statement& statement, bool verifying, bool& res
     if (verifying) result = false;
     return;
   }
-  const std::string argument = SubstituteTokens(statement);
+  const std::string argument = SubstituteTokensOf(statement);
   if (verb == StatementVerb::kMtp) {
     if (SelfReference_ != nullptr) SelfReference_->NotifyParent(argument, verifying, result);
     return;
@@ -64,30 +53,11 @@ bool GameObject::VerifyStatement(StatementVerb verb, const std::string& argument
   return verb == StatementVerb::kRunSound ? VerifySoundState(argument) : VerifyState(argument);
 }
 
-std::string GameObject::SubstituteTokens(const Statement& statement) {
-  std::string text = statement.Argument();
+std::string GameObject::SubstituteTokensOf(const Statement& statement) {
+  const std::string& text = statement.Argument();
   if (!statement.MayHoldToken()) return text;
-  if (!ReplaceToken(text, "<rootobjectname>", StripToolWords(ObjectName_))) {
-    ReplaceToken(text, "<objectname>", ObjectName_);
-  }
-  ReplaceToken(text, "<objecttype>", ObjectType_);
-  ReplaceToken(text, "<currentregion>", CurrentRegion_);
-  if (!ReplaceToken(text, "<currentstate>", CurrentState())) {
-    ReplaceToken(text, "<currentrootstate>", GetRootState());
-  }
-  if (ContainsNoCase(text, "<incrementstate>")) {
-    ReplaceToken(text, "<incrementstate>", IncrementState());
-  }
-  return text;
-}
-
-std::string GameObject::IncrementState() const {
-  const std::string current = m_ptrCurrObjState ? m_ptrCurrObjState->Name() : std::string();
-  if (EqualsNoCase(current, "default")) return "better1";
-  if (!ContainsNoCase(current, "better")) return current;
-  // The leading number: pointing at a patient in "better2-highlight" must not end the game.
-  const double number = LeadingNumber(SF_remove(current, "better"));
-  return "better" + std::to_string(ToInt32(number + 1, "number of a state"));
+  const std::string state = m_ptrCurrObjState ? m_ptrCurrObjState->Name() : std::string();
+  return SubstituteTokens(text, {ObjectName_, ObjectType_, CurrentRegion_, state});
 }
 
 }  // namespace quendle

@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "base/SF_Strings.h"
 #include "base/Settings.h"
 #include "base/Watch.h"
 #include "media/MediaWorld.h"
 #include "media/SoundState.h"
 #include "object/GameObject.h"
+#include "object/StatementTokens.h"
 #include "script/ScriptState.h"
 
 namespace quendle {
@@ -133,7 +133,7 @@ void GameObject::ResetSurgeryMachine() {
 }
 
 std::string GameObject::GetRootState() {
-  return SF_remove(SF_remove(CurrentState(), "-highlight"), "highlight");
+  return RootStateOf(CurrentState());
 }
 
 }  // namespace quendle

@@ -1,20 +1,16 @@
 // What a GameObject's states, sounds, animations and scripts refer to, checked without playing.
 
-#include <cstdlib>
-
 #include "base/ContentFiles.h"
 #include "base/Watch.h"
 #include "media/MediaWorld.h"
 #include "media/SoundState.h"
 #include "object/GameObject.h"
+#include "object/VerifyRules.h"
 #include "script/ScriptState.h"
 #include "script/Statement.h"
 
 namespace quendle {
 namespace {
-
-constexpr int kWidestFrame = 800;
-constexpr int kTallestFrame = 600;
 
 bool IsNothingWord(const std::string& name) { return EqualsNoCase(name, "nothing"); }
 
@@ -73,13 +69,7 @@ bool GameObject::VerifyAnimationState(const std::string& name) {
 
 bool GameObject::VerifyFrame(const std::string& name) {
   std::shared_ptr<AnimationFrame> frame = QueryFrameState(name);
-  if (frame == nullptr) return false;
-  return std::abs(static_cast<long>(frame->PlaceX)) <= kWidestFrame &&
-         std::abs(static_cast<long>(frame->DrawWidth)) <= kWidestFrame &&
-         std::abs(static_cast<long>(frame->PlaceY)) <= kTallestFrame &&
-         std::abs(static_cast<long>(frame->DrawHeight)) <= kTallestFrame &&
-         frame->SourceWidth >= 0 && frame->SourceWidth <= kWidestFrame &&
-         frame->SourceHeight >= 0 && frame->SourceHeight <= kTallestFrame;
+  return frame != nullptr && FrameFitsScreen(*frame);
 }
 
 bool GameObject::VerifyState(const std::string& name) {
@@ -122,7 +112,7 @@ bool GameObject::VerifyScript(const std::string& name) {
 }
 
 bool GameObject::VerifyOwwwPair(const std::string& name) {
-  if (ContainsNoCase(name, "owww") || !HoldsAny(name, {"default", "better"})) return true;
+  if (!NeedsOwwwTwin(name)) return true;
   const std::string twin = name + "-owww";
   return StateExists(twin) && StateAnimationLoops(twin) && StateHasScript(twin);
 }

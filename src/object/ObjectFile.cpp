@@ -4,10 +4,15 @@
 #include <utility>
 
 #include "base/Numbers.h"
+#include "base/PathTokens.h"
+#include "base/SF_Strings.h"
 #include "base/Text.h"
 
 namespace quendle {
 namespace {
+
+constexpr std::string_view kRootNameToken = "<RootObjectName>\\";
+constexpr std::string_view kNameToken = "<ObjectName>";
 
 using Setter = void (*)(Directives&, const std::string& value, const FilePlace&);
 
@@ -72,6 +77,15 @@ DataFile ReadDataFile(TextStream& stream) {
   file.scripts = stream.ReadLine("the path of the script list, or \"nothing\"");
   stream.ReadLine("line 5 of a data file");
   return file;
+}
+
+std::string ResolveObjectPath(std::string_view directory, std::string_view object_name,
+                              std::string_view path) {
+  const std::string resolved = ResolveDirectoryTokens(directory, path);
+  if (ContainsNoCase(resolved, kRootNameToken)) {
+    return SF_replace(resolved, kRootNameToken, StripToolWords(object_name) + "\\");
+  }
+  return SF_replace(resolved, kNameToken, object_name);
 }
 
 std::vector<ChildLine> ReadChildList(TextStream& stream) {

@@ -3,6 +3,7 @@
 #include "base/ContentFiles.h"
 #include "base/FatalError.h"
 #include "personalize/PersonalizeServices.h"
+#include "platform/Gdi.h"
 #include "platform/PictureSaver.h"
 
 namespace quendle {
@@ -10,6 +11,20 @@ namespace {
 
 constexpr const char* kDefaultFaceFile = "face-default.bmp";
 constexpr const char* kDefaultDoctorFile = "doctor-default.bmp";
+
+// Empty for a file that is missing or no bitmap.
+Picture PictureIn(const PersonalizeServices& services, const std::string& name) {
+  Gdi& gdi = services.gdi;
+  const BitmapHandle bitmap = gdi.LoadImageA(PersonFile(services, name));
+  if (bitmap == 0) return {};
+  Picture picture = gdi.ReadBitmap(bitmap);
+  gdi.DeleteObject(bitmap);
+  return picture;
+}
+
+bool AreTheSame(const PersonalizeServices& services, const char* name, const char* other) {
+  return PictureIn(services, name) == PictureIn(services, other);
+}
 
 }  // namespace
 
@@ -25,10 +40,12 @@ void SavePersonPicture(const PersonalizeServices& services, const std::string& n
                    " could not be written");
 }
 
-bool DefaultPersonExists(const PersonalizeServices& services) {
+bool PhotographCanBeRemoved(const PersonalizeServices& services) {
   const ContentFiles& files = services.forms.files;
-  return files.FileExistsAt(PersonFile(services, kDefaultFaceFile)) &&
-         files.FileExistsAt(PersonFile(services, kDefaultDoctorFile));
+  const bool defaults_exist = files.FileExistsAt(PersonFile(services, kDefaultFaceFile)) &&
+                              files.FileExistsAt(PersonFile(services, kDefaultDoctorFile));
+  return defaults_exist && !(AreTheSame(services, kFaceFile, kDefaultFaceFile) &&
+                             AreTheSame(services, kDoctorFile, kDefaultDoctorFile));
 }
 
 void RestoreDefaultPerson(const PersonalizeServices& services) {

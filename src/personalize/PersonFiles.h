@@ -20,8 +20,8 @@ void SavePersonPicture(const PersonalizeServices& services, const std::string& n
                        const Picture& picture);
 
 // True if the content brings the drawn child's face and doctor ("face-default.bmp",
-// "doctor-default.bmp"), so that a photograph can be taken back.
-bool DefaultPersonExists(const PersonalizeServices& services);
+// "doctor-default.bmp") and the game shows others.
+bool PhotographCanBeRemoved(const PersonalizeServices& services);
 
 // Puts the drawn child in the place of the photograph; a failed write is fatal.
 void RestoreDefaultPerson(const PersonalizeServices& services);

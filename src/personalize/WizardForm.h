@@ -32,7 +32,7 @@ class WizardForm : public PictureForm {
   // The elements behind the close button; `index` is 13 or more.
   virtual void FurtherButton(int index) = 0;
 
-  void CloseWindow();
+  virtual void CloseWindow();
   // Hides this stage and shows the start-up form.
   void BackToPrompt();
   // A message under the wizard's name.

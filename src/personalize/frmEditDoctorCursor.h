@@ -24,6 +24,7 @@ class frmEditDoctorCursor : public WizardForm {
   void CompositePicture();
 
  protected:
+  void CloseWindow() override;
   void Previous() override;
   void Next() override;
   void StageButton() override { Move(0, -1); }

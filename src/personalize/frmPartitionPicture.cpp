@@ -6,7 +6,6 @@
 #include "dialogs/FormLayout.h"
 #include "personalize/FaceCut.h"
 #include "personalize/PersonFiles.h"
-#include "personalize/ReachablePicture.h"
 #include "personalize/frmEditDoctorCursor.h"
 #include "personalize/frmSelectPicture.h"
 #include "platform/Boxes.h"
@@ -22,16 +21,20 @@ constexpr int kBarGap = 4;
 constexpr int kLineWidth = 3;
 constexpr Color kLineColor = PackColor(0xE6, 0x3C, 0x28);
 constexpr std::size_t kFewestPoints = 3;
+// Points of the outline are 16-bit twips, so they reach 2184 pixels into a photograph. One that
+// must be made smaller anyhow is brought to a size that is handy to work on.
+constexpr PictureLimit kReachable{2184, 1200};
 // A step of a scroll bar moves the photograph by one pixel, so that every pixel comes into view.
 constexpr int kScrollStep = kTwipsPerPixel;
 
 // How far the picture begins inside a view that is wider than it.
 int Centred(int view, int picture) { return std::max(view - picture, 0) / 2; }
 
-void SetBar(Control& bar, bool shown, int beyond, const Rect& area) {
+// Faces are mostly found in the middle and a little above it: there a photograph begins.
+void SetBar(Control& bar, bool shown, int beyond, int part, const Rect& area) {
   bar.visible = shown;
   bar.maximum = shown ? beyond : 0;
-  bar.value = 0;
+  bar.value = bar.maximum / part;
   bar.area = area;
 }
 
@@ -50,7 +53,7 @@ frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
            {130, 50, 762, 74});
   AddLabel(form_, "lblHelp",
            "Click all the way round: the outline closes by itself. The bars move the photograph.",
-           {146, 74, 762, 98});
+           {130, 74, 762, 98});
   AddPicturePair(form_, 5, "undo", "Undo", {222, 520, 382, 572});
   AddPicturePair(form_, 13, "reset", "Start over", {398, 520, 558, 572});
   AddScroll(form_, "HScroll1", {}).visible = false;
@@ -63,19 +66,26 @@ frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
 
 frmPartitionPicture::~frmPartitionPicture() = default;
 
+void frmPartitionPicture::ReleasePhotograph() {
+  picture_.reset();
+  photograph_.reset();
+  Image().image.reset();
+  Image().visible = false;
+}
+
 void frmPartitionPicture::LoadImage(const std::string& path) {
   if (path.empty()) {
+    BackToSelection();
     Tell("Please choose a photograph first: press Browse.");
-    BackToSelection();
     return;
   }
-  LoadedPicture loaded = personalize_.loader.LoadPicture(path);
+  LoadedPicture loaded = personalize_.loader.LoadPicture(path, kReachable);
   if (loaded.picture == nullptr) {
-    Tell(loaded.problem);
     BackToSelection();
+    Tell(loaded.problem);
     return;
   }
-  picture_ = ReachablePicture(std::move(loaded.picture));
+  picture_ = std::move(loaded.picture);
   Gdi& gdi = personalize_.gdi;
   photograph_ = std::make_unique<MemoryBitmap>(gdi, gdi.CreatePictureBitmap(*picture_));
   Image().image = picture_;
@@ -123,7 +133,13 @@ void frmPartitionPicture::PartitionCommand(std::string_view command) {
   }
 }
 
+void frmPartitionPicture::CloseWindow() {
+  ReleasePhotograph();
+  WizardForm::CloseWindow();
+}
+
 void frmPartitionPicture::BackToSelection() {
+  ReleasePhotograph();
   SetShown(false);
   select_.Open();
 }
@@ -207,9 +223,9 @@ void frmPartitionPicture::FitScrollBars() {
   }
   if (standing) view_.right -= room;
   if (lying) view_.bottom -= room;
-  SetBar(*form_.Find("HScroll1"), lying, size.width - view_.Width(),
+  SetBar(*form_.Find("HScroll1"), lying, size.width - view_.Width(), 2,
          {view_.left, view_.bottom + kBarGap, view_.right, view_.bottom + room});
-  SetBar(*form_.Find("VScroll1"), standing, size.height - view_.Height(),
+  SetBar(*form_.Find("VScroll1"), standing, size.height - view_.Height(), 3,
          {view_.right + kBarGap, view_.top, view_.right + room, view_.bottom});
   ScrollTo();
 }

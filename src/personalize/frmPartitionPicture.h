@@ -21,8 +21,10 @@ class frmPartitionPicture : public WizardForm {
   ~frmPartitionPicture() override;
 
   // Loads a photograph and fits the scroll bars. Without a path, or when the file can't be used, it
-  // tells so and goes back to stage 1.
+  // goes back to stage 1 and tells so there.
   void LoadImage(const std::string& path);
+  // Gives the memory of the photograph back; the next visit loads it again.
+  void ReleasePhotograph();
   // Removes the whole outline.
   void ResetLines();
   // Names the outline; an empty answer changes nothing. No button leads here.
@@ -35,6 +37,7 @@ class frmPartitionPicture : public WizardForm {
   void Set(Control& control, int value) override;
 
  protected:
+  void CloseWindow() override;
   void Previous() override { PartitionCommand("Previous"); }
   void Next() override { PartitionCommand("Next"); }
   void StageButton() override { PartitionCommand("UndoLine"); }

@@ -14,6 +14,8 @@ namespace {
 
 constexpr int kLastPicture = 12;
 constexpr Rect kPreview{306, 98, 576, 346};
+// Twice the room of the preview: enough for a display that shows the form enlarged.
+constexpr PictureLimit kPreviewLimit{540, 540};
 constexpr const char* kRemoveLink = "lblRemove";
 
 const std::vector<FileFilter>& PictureFilters() {
@@ -40,7 +42,7 @@ Rect PlaceInMiddle(Size picture, const Rect& room) {
 }  // namespace
 
 frmSelectPicture::frmSelectPicture(const PersonalizeServices& services)
-    : WizardForm(services, "frmSelectPicture", {600, 450}, kLastPicture) {
+    : WizardForm(services, "frmSelectPicture", {600, 462}, kLastPicture) {
   form_.caption = WizardName();
   AddLabel(form_, "Label1", "Stage 1 of 4", {0, 0, 0, 28}).font_size = kTitleFontSize;
   AddLabel(form_, "Label4", "Select a Picture", {20, 52, 290, 82}).font_size = kTitleFontSize;
@@ -51,17 +53,22 @@ frmSelectPicture::frmSelectPicture(const PersonalizeServices& services)
            {20, 92, 284, 280});
   AddPicturePair(form_, 5, "browse", "Browse...", {20, 290, 284, 350});
   AddFrame(form_, "Frame1", "", {296, 78, 586, 354});
-  AddLabel(form_, "lblEmpty", "Your photograph is shown here.", {320, 200, 570, 230});
+  AddLabel(form_, "lblEmpty", "Your photograph is shown here.", {328, 206, 576, 236});
   AddImage(form_, "Image1", 0, kPreview).visible = false;
-  AddLink(form_, kRemoveLink, "Remove my photograph from the game", {306, 357, 586, 379});
+  AddLink(form_, kRemoveLink, "Remove my photograph from the game", {306, 358, 586, 382});
   Finish();
 }
 
 frmSelectPicture::~frmSelectPicture() = default;
 
 void frmSelectPicture::Open() {
-  form_.Find(kRemoveLink)->visible = DefaultPersonExists(personalize_);
+  OfferRemoval();
   Show();
+}
+
+// A family that has put no photograph in is not asked to take it out.
+void frmSelectPicture::OfferRemoval() {
+  form_.Find(kRemoveLink)->visible = PhotographCanBeRemoved(personalize_);
 }
 
 void frmSelectPicture::Press(Control& control, Point at) {
@@ -89,7 +96,7 @@ void frmSelectPicture::Browse() {
 
 // A file that is refused leaves the photograph before it in place.
 void frmSelectPicture::TakePicture(const std::string& path) {
-  LoadedPicture loaded = personalize_.loader.LoadPicture(path);
+  LoadedPicture loaded = personalize_.loader.LoadPicture(path, kPreviewLimit);
   if (loaded.picture == nullptr) {
     Tell(loaded.problem);
     return;
@@ -110,6 +117,7 @@ void frmSelectPicture::ShowPreview(SharedPicture picture) {
 void frmSelectPicture::RemovePhotograph() {
   if (!Ask("Remove your photograph from the game? The drawn child takes its place again.")) return;
   RestoreDefaultPerson(personalize_);
+  OfferRemoval();
   path_.clear();
   ShowPreview(nullptr);
   Tell("Your photograph is no longer in the game.");

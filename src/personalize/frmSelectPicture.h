@@ -20,6 +20,7 @@ class frmSelectPicture : public WizardForm {
   void Open();
 
   void Press(Control& control, Point at) override;
+  bool TakesDrops() const override { return true; }
   // Takes the file as if it had been chosen.
   void Drop(const std::string& native_path) override;
 
@@ -33,6 +34,7 @@ class frmSelectPicture : public WizardForm {
   void Browse();
   void TakePicture(const std::string& path);
   void ShowPreview(SharedPicture picture);
+  void OfferRemoval();
   void RemovePhotograph();
 
   std::string path_;  // of the chosen file; empty until one is chosen

@@ -19,7 +19,7 @@ class Boxes {
   virtual void MessageBox(const std::string& title, const std::string& text) = 0;
   // A question with Yes and No; true for Yes.
   virtual bool YesNoBox(const std::string& title, const std::string& text) = 0;
-  // One line of text; empty when the player cancels.
+  // One line of text; empty when the player cancels. Closing the window may end the process.
   virtual std::string InputBox(const std::string& title, const std::string& prompt) = 0;
   // The native path of a chosen file, which exists; empty when the player cancels. The first filter
   // is the one that is set when the chooser opens.

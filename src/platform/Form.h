@@ -64,6 +64,8 @@ class FormEvents {
   // A value chosen otherwise than by a press: a radio or check by a tool (0 or 1), a scroll bar
   // (its position). The form's logic changes the record.
   virtual void Set(Control& /*control*/, int /*value*/) {}
+  // True while a file may be dropped on the form: only then the pointer shows that it may.
+  virtual bool TakesDrops() const { return false; }
   // A file was dropped on the form; the path is the system's.
   virtual void Drop(const std::string& /*native_path*/) {}
   virtual void Key(FormKey key) = 0;

@@ -78,7 +78,7 @@ std::string_view NodeTypeName(NodeType type) {
 void Command::Parse(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
                     WorkDepth& depth) {
   const ScriptLine& line = LineAt(lines, position);
-  DepthGuard guard(depth, Work::kLoad, line.text);
+  DepthGuard guard(depth, Work::kLoad, line.text, nullptr, &line.place);
   place_ = line.place;
   std::vector<std::string> words = SplitTokens(line.text, ' ');
   if (words.empty()) {

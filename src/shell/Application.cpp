@@ -76,6 +76,7 @@ Application::Status Application::Deliver(const std::function<void()>& work) {
 
 void Application::OpenGameWindow() {
   globals_ = std::make_unique<Globals>(settings_, ports_, content_);
+  if (tester_) globals_->Tester = std::make_unique<TesterRun>(globals_->objects, *tester_);
   globals_->media.UseDirectX = true;
   globals_->media.FullScreen = true;
   globals_->debug_window = debug_window_;

@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "base/ContentFiles.h"
 #include "base/FatalError.h"
@@ -12,6 +14,7 @@
 #include "shell/GameStarter.h"
 #include "shell/Globals.h"
 #include "shell/SpokenCaptions.h"
+#include "shell/TesterRun.h"
 
 namespace quendle {
 
@@ -57,6 +60,8 @@ class Application : private GameStarter {
   TandrelPrompt& Prompt() { return *prompt_; }
   // The worlds of the game run; null before Play.
   Globals* Game() { return globals_.get(); }
+  // Switches the recorder of user actions on; before Play.
+  void SetTester(TesterOptions options) { tester_ = std::move(options); }
   // Told to the game when it starts; may be null.
   void SetTracer(Tracer* tracer);
   void SetBlitWatcher(BlitWatcher* watcher);
@@ -78,6 +83,7 @@ class Application : private GameStarter {
   std::unique_ptr<Globals> globals_;
   SpokenCaptions captions_{globals_};
   std::unique_ptr<Quendle_Game_Screen> screen_;
+  std::optional<TesterOptions> tester_;
   Tracer* tracer_ = nullptr;
   BlitWatcher* blit_watcher_ = nullptr;
   Debomb_Window* debug_window_ = nullptr;

@@ -12,6 +12,7 @@
 #include "shell/Globals.h"
 #include "shell/Registries.h"
 #include "shell/SettingsFiles.h"
+#include "shell/TesterRun.h"
 
 namespace quendle {
 namespace {
@@ -27,8 +28,8 @@ void SelectIllness(const Globals& globals) {
 }
 
 void CreateEventLog(Globals& globals) {
-  globals.EventLog = std::make_unique<TestingObject>(globals.media.ports.files,
-                                                     globals.media.settings.BaseDirectory);
+  globals.EventLog = std::make_unique<TestingObject>(
+      globals.media.ports.files, globals.media.settings.BaseDirectory, &globals.watch);
   globals.EventLog->SetMirror(globals.debug_window);
   globals.EventLog->Initialize("general", "general.txt", nullptr, kLogThreshold);
   globals.media.log = globals.EventLog.get();
@@ -56,6 +57,7 @@ void StartUpGame(Globals& globals, SettingsFiles& files, GameHost& host, int win
   const AutosaveFiles autosave(globals.media.content);
   const std::string saved_game = autosave.ChooseSavedGame(ended_in_order);
   globals.GameLogic->Initialize(context, saved_game);
+  if (globals.Tester != nullptr) globals.Tester->Start(globals.GameLogic, saved_game);
   globals.GameLogic->TurnOn();
   // The start went well: what it recovered must outlive the next crash, too.
   if (AutosaveFiles::IsSetAside(saved_game) && globals.GameLogic->Autosave()) {

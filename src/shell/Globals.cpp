@@ -3,6 +3,7 @@
 #include "diagnostics/TestingObject.h"
 #include "logic/GameLogicLayer.h"
 #include "shell/ObjectClasses.h"
+#include "shell/TesterRun.h"
 
 namespace quendle {
 

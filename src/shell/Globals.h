@@ -14,6 +14,7 @@
 namespace quendle {
 
 class GameLogicLayer;
+class TesterRun;
 struct Debomb_Window;
 class TestingObject;
 
@@ -33,6 +34,7 @@ struct Globals {
   std::unique_ptr<TestingObject> EventLog;
   Debomb_Window* debug_window = nullptr;      // shows the event log too, if there is one
   std::shared_ptr<GameLogicLayer> GameLogic;  // null before it is created and after its end
+  std::unique_ptr<TesterRun> Tester;          // null unless the recorder is switched on
 };
 
 }  // namespace quendle

@@ -11,6 +11,7 @@
 #include "platform/SystemServices.h"
 #include "shell/GameRun.h"
 #include "shell/Globals.h"
+#include "shell/TesterRun.h"
 
 namespace quendle {
 namespace {
@@ -27,7 +28,10 @@ void Quendle_Game_Screen::Load() {
   StartUpGame(globals_, files_, *this, GameWindowHandle, window.DrawingContext());
 }
 
-void Quendle_Game_Screen::Unload() { throw ProcessEnds{true}; }
+void Quendle_Game_Screen::Unload() {
+  if (globals_.Tester != nullptr) globals_.Tester->Close();
+  throw ProcessEnds{true};
+}
 
 void Quendle_Game_Screen::HookWindowProc() {
   std::optional<WindowProc> replaced = globals_.media.ports.window.ReplaceWindowProc(
@@ -48,6 +52,7 @@ std::intptr_t Quendle_Game_Screen::GameWindowProc(int window, unsigned message, 
   if (message == kActivateAppMessage) {
     std::shared_ptr<GameLogicLayer> logic = globals_.GameLogic;
     globals_.objects.GameActive = w != 0;
+    if (globals_.Tester != nullptr) globals_.Tester->Focus(w != 0);
     if (logic != nullptr && w != 0) logic->PlaySound();
     if (logic != nullptr && w == 0) {
       logic->PauseSound();
@@ -59,7 +64,9 @@ std::intptr_t Quendle_Game_Screen::GameWindowProc(int window, unsigned message, 
 
 void Quendle_Game_Screen::KeyPress(int code) {
   std::shared_ptr<GameLogicLayer> logic = globals_.GameLogic;
-  if (logic != nullptr && code == kEscape) logic->Send("exitondemand");
+  if (logic == nullptr || code != kEscape) return;
+  if (globals_.Tester != nullptr) globals_.Tester->Key(code);
+  logic->Send("exitondemand");
 }
 
 void Quendle_Game_Screen::MouseDown(int, int, double x, double y) {

@@ -18,15 +18,6 @@ namespace {
 
 constexpr const char* kListFolder = "\\Info\\";
 
-// The folder against which a line of a list is resolved: that of the line itself, and the folder
-// of the list for a line that begins with a token, which has no folder of its own.
-std::string FolderOfLine(std::string_view line, const std::string& base_directory) {
-  for (const char* token : {"<CurrentDirectory>\\", "<PreviousDirectory>\\"}) {
-    if (FindNoCase(line, token) == 0) return kListFolder;
-  }
-  return RelativeDirectoryOf(line, base_directory);
-}
-
 class ListPaths : public PathResolver {
  public:
   explicit ListPaths(std::string folder) : folder_(std::move(folder)) {}
@@ -45,6 +36,13 @@ std::unique_ptr<TextStream> OpenList(const ContentFiles& content, const char* na
 
 }  // namespace
 
+std::string FolderOfListLine(std::string_view line, const std::string& base_directory) {
+  for (const char* token : {"<CurrentDirectory>\\", "<PreviousDirectory>\\"}) {
+    if (FindNoCase(line, token) == 0) return kListFolder;
+  }
+  return RelativeDirectoryOf(line, base_directory);
+}
+
 void LoadGlobalSounds(Globals& globals) {
   const ContentFiles& content = globals.media.content;
   auto list = OpenList(content, "globalsoundstates.txt");
@@ -52,7 +50,7 @@ void LoadGlobalSounds(Globals& globals) {
     auto sound = std::make_shared<SoundState>(globals.media);
     sound->SetName(record.name);
     const std::string path =
-        ResolveDirectoryTokens(FolderOfLine(record.path, content.BaseDirectory()), record.path);
+        ResolveDirectoryTokens(FolderOfListLine(record.path, content.BaseDirectory()), record.path);
     sound->Initialize(content.BaseDirectory() + path, true);
     sound->SetLoopState(record.loop);
     std::string name = sound->Name();
@@ -64,7 +62,7 @@ void LoadGlobalScripts(Globals& globals) {
   const ContentFiles& content = globals.media.content;
   auto list = OpenList(content, "globalscriptstates.txt");
   for (const ScriptListRecord& record : ReadScriptList(*list)) {
-    const ListPaths paths(FolderOfLine(record.path, content.BaseDirectory()));
+    const ListPaths paths(FolderOfListLine(record.path, content.BaseDirectory()));
     auto script =
         LoadScript(content, record.name, content.BaseDirectory() + paths.Resolve(record.path),
                    paths, globals.watch.depth);

@@ -5,12 +5,11 @@
 
 #include "base/Numbers.h"
 #include "subgames/CellCorners.h"
+#include "subgames/Field.h"
 
 namespace quendle {
 namespace {
 
-constexpr int kFieldWidth = 800;
-constexpr int kFieldHeight = 600;
 constexpr std::int16_t kStart = 300;
 // At and below this y stands the paddle, above it the bricks.
 constexpr std::int16_t kPaddleRows = 400;

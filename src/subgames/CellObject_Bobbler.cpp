@@ -7,12 +7,11 @@
 #include "platform/Ports.h"
 #include "platform/RandomSource.h"
 #include "subgames/CellCorners.h"
+#include "subgames/Field.h"
 
 namespace quendle {
 namespace {
 
-constexpr int kFieldWidth = 800;
-constexpr int kFieldHeight = 600;
 constexpr std::int16_t kFullH = 10;
 constexpr std::int16_t kFullV = 8;
 

@@ -65,6 +65,11 @@ void CellPlayArea::DecrementLife(std::int16_t n) {
   m_nLives = ToInt16(m_nLives - std::abs(n), "lives");
 }
 
+void CellPlayArea::TakeSelections() {
+  OnMessage(Test::kContains, "select", [this](const std::string& text) { SelectCell(text); });
+  OnMessage(Test::kContains, "acceptedcell", [this](const std::string&) { AcceptCell(); });
+}
+
 void CellPlayArea::SelectCell(const std::string& message) {
   const std::string base = SF_splitLeft(Selected(), "-");
   if (base != Selected()) {

@@ -14,8 +14,6 @@ namespace {
 constexpr int kBricks = 32;
 constexpr std::int16_t kBalls = 3;
 constexpr int kTick = 50;  // milliseconds, at every difficulty
-constexpr std::int16_t kRuns = 1;
-constexpr std::int16_t kWaits = 2;
 constexpr std::int16_t kBallStart = 300;
 constexpr std::int16_t kPaddleX = 350;
 constexpr std::int16_t kPaddleY = 550;
@@ -31,11 +29,10 @@ const char* BrickFile(int i) {
 }  // namespace
 
 PlayAreaObject_Bkr::PlayAreaObject_Bkr(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames)
-    : CellPlayArea(world, std::move(subgames), SubgameKind::kBlinker) {
+    : PausablePlayArea(world, std::move(subgames), SubgameKind::kBlinker) {
   OnMessage(Test::kContains, "replaygame", [this](const std::string&) { PauseForReplay(); });
-  OnMessage(Test::kContains, "restartgame", [this](const std::string&) { m_nRunState = kRuns; });
-  OnMessage(Test::kContains, "select", [this](const std::string& text) { SelectCell(text); });
-  OnMessage(Test::kContains, "acceptedcell", [this](const std::string&) { AcceptCell(); });
+  OnMessage(Test::kContains, "restartgame", [this](const std::string&) { LetTicksRun(); });
+  TakeSelections();
 }
 
 void PlayAreaObject_Bkr::TurnOn() {
@@ -45,12 +42,7 @@ void PlayAreaObject_Bkr::TurnOn() {
   BuildPlayField();
   TellParent("showobj_Play1");
   StartGameTimer(kTick);
-  m_nRunState = kRuns;
-}
-
-void PlayAreaObject_Bkr::StartGame() {
-  if (Stopped()) m_nRunState = kRuns;
-  CellPlayArea::StartGame();
+  LetTicksRun();
 }
 
 void PlayAreaObject_Bkr::BuildPlayField() {
@@ -89,7 +81,7 @@ void PlayAreaObject_Bkr::AddBrick(const std::string& folder, int i) {
 void PlayAreaObject_Bkr::DropCells() {
   m_ptrBall = nullptr;
   m_ptrPaddle = nullptr;
-  CellPlayArea::DropCells();
+  PausablePlayArea::DropCells();
 }
 
 void PlayAreaObject_Bkr::PlayMouse(std::int16_t x, std::int16_t, const std::string& action) {
@@ -99,7 +91,7 @@ void PlayAreaObject_Bkr::PlayMouse(std::int16_t x, std::int16_t, const std::stri
 }
 
 void PlayAreaObject_Bkr::UpdateGameData() {
-  if (m_nRunState != kRuns || Stopped()) return;
+  if (!TicksRun()) return;
   // Held here: the end of the game drops both, and they still move in this tick.
   const std::shared_ptr<CellObject_BBall> ball = m_ptrBall;
   const std::shared_ptr<CellObject_Blinker> paddle = m_ptrPaddle;
@@ -139,14 +131,13 @@ void PlayAreaObject_Bkr::LoseBall(CellObject_BBall& ball) {
 }
 
 void PlayAreaObject_Bkr::PauseForReplay() {
-  m_nRunState = kWaits;
+  HoldTicks();
   TellAbove("showobj_replay");
 }
 
 void PlayAreaObject_Bkr::Describe(Inspector& inspector) const {
-  CellPlayArea::Describe(inspector);
+  PausablePlayArea::Describe(inspector);
   inspector.Field("m_nBalls", m_nBalls);
-  inspector.Field("m_nRunState", m_nRunState);
 }
 
 }  // namespace quendle

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "subgames/CellPlayArea.h"
+#include "subgames/PausablePlayArea.h"
 
 namespace quendle {
 
@@ -12,7 +12,7 @@ class CellObject_BBall;
 class CellObject_Blinker;
 
 // The field of the ball, the bricks and the paddle, which follows the pointer along a line.
-class PlayAreaObject_Bkr : public CellPlayArea {
+class PlayAreaObject_Bkr : public PausablePlayArea {
  public:
   PlayAreaObject_Bkr(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames);
 
@@ -21,7 +21,6 @@ class PlayAreaObject_Bkr : public CellPlayArea {
   void Describe(Inspector& inspector) const override;
 
  protected:
-  void StartGame() override;
   void PlayMouse(std::int16_t x, std::int16_t y, const std::string& action) override;
   void DropCells() override;
 
@@ -37,7 +36,6 @@ class PlayAreaObject_Bkr : public CellPlayArea {
   std::shared_ptr<CellObject_BBall> m_ptrBall;
   std::shared_ptr<CellObject_Blinker> m_ptrPaddle;
   std::int16_t m_nBalls = 0;
-  std::int16_t m_nRunState = 0;  // 1: ticks run, 2: waiting after a lost ball
 };
 
 }  // namespace quendle

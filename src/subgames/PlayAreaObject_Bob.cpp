@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "object/ObjectWorld.h"
 #include "subgames/CellObject_Bobbler.h"
+#include "subgames/Field.h"
 
 namespace quendle {
 namespace {
@@ -16,7 +17,6 @@ constexpr int kMoreBadCells = 3;
 constexpr std::int16_t kManyCells = 40;  // from here on no bad cells come
 constexpr std::int16_t kLives = 5;
 constexpr int kTick = 75;  // milliseconds, at every difficulty
-constexpr std::int16_t kRuns = 1;
 
 const char* BadCellFile(int i) {
   if (i % 12 == 0) return "\\cell1data.txt";
@@ -34,11 +34,10 @@ bool IsGood(const CellObject& cell) { return cell.ObjectType() == "good"; }
 }  // namespace
 
 PlayAreaObject_Bob::PlayAreaObject_Bob(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames)
-    : CellPlayArea(world, std::move(subgames), SubgameKind::kBobbler) {
+    : PausablePlayArea(world, std::move(subgames), SubgameKind::kBobbler) {
   // Once for all games of this object: the next one goes on with what is left.
   m_nLives = kLives;
-  OnMessage(Test::kContains, "select", [this](const std::string& text) { SelectCell(text); });
-  OnMessage(Test::kContains, "acceptedcell", [this](const std::string&) { AcceptCell(); });
+  TakeSelections();
 }
 
 void PlayAreaObject_Bob::TurnOn() {
@@ -47,12 +46,7 @@ void PlayAreaObject_Bob::TurnOn() {
   BuildPlayField();
   TellParent("showobj_Play1");
   StartGameTimer(kTick);
-  m_nRunState = kRuns;
-}
-
-void PlayAreaObject_Bob::StartGame() {
-  if (Stopped()) m_nRunState = kRuns;
-  CellPlayArea::StartGame();
+  LetTicksRun();
 }
 
 void PlayAreaObject_Bob::BuildPlayField() {
@@ -68,8 +62,8 @@ void PlayAreaObject_Bob::AddBobbler(int i, bool odd_is_good) {
   auto cell = LoadCell<CellObject_Bobbler>(folder_ + (good ? "\\gooddata.txt" : BadCellFile(i)),
                                            good ? "good" : "bad", "cell" + std::to_string(i));
   AddCell(cell);
-  cell->Setxpos(ToInt16(800 * Rnd(), "xpos of a cell"));
-  cell->Setypos(ToInt16(600 * Rnd(), "ypos of a cell"));
+  cell->Setxpos(ToInt16(kFieldWidth * Rnd(), "xpos of a cell"));
+  cell->Setypos(ToInt16(kFieldHeight * Rnd(), "ypos of a cell"));
   cell->SetVisible(true);
   cell->CellObject::TurnOn();
 }
@@ -110,7 +104,7 @@ void PlayAreaObject_Bob::ClickGoodCell(CellObject& cell) {
 }
 
 void PlayAreaObject_Bob::UpdateGameData() {
-  if (m_nRunState != kRuns || Stopped()) return;
+  if (!TicksRun()) return;
   bool any_bad = false;
   bool any_good = false;
   for (const auto& cell : m_colCells) {
@@ -126,10 +120,9 @@ void PlayAreaObject_Bob::UpdateGameData() {
 }
 
 void PlayAreaObject_Bob::Describe(Inspector& inspector) const {
-  CellPlayArea::Describe(inspector);
+  PausablePlayArea::Describe(inspector);
   inspector.Field("m_nLives", m_nLives);
   inspector.Field("m_nCellCount", m_nCellCount);
-  inspector.Field("m_nRunState", m_nRunState);
 }
 
 }  // namespace quendle

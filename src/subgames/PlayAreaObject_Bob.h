@@ -4,12 +4,12 @@
 #include <memory>
 #include <string>
 
-#include "subgames/CellPlayArea.h"
+#include "subgames/PausablePlayArea.h"
 
 namespace quendle {
 
 // The field of the good and the bad cells that drift around and are clicked away.
-class PlayAreaObject_Bob : public CellPlayArea {
+class PlayAreaObject_Bob : public PausablePlayArea {
  public:
   PlayAreaObject_Bob(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames);
 
@@ -18,7 +18,6 @@ class PlayAreaObject_Bob : public CellPlayArea {
   void Describe(Inspector& inspector) const override;
 
  protected:
-  void StartGame() override;
   void PlayMouse(std::int16_t x, std::int16_t y, const std::string& action) override;
   // The end stops the running game in full: its state, and the play button.
   bool StopsBeforeItsEnd() const override { return false; }
@@ -32,7 +31,6 @@ class PlayAreaObject_Bob : public CellPlayArea {
 
   std::string folder_;            // of the cells' files, since the area was turned on last
   std::int16_t m_nCellCount = 0;  // the highest cell number made
-  std::int16_t m_nRunState = 0;   // 1: ticks run
 };
 
 }  // namespace quendle

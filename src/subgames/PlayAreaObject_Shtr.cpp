@@ -11,14 +11,13 @@
 #include "subgames/CellCorners.h"
 #include "subgames/CellObject_Shooter.h"
 #include "subgames/CellObject_Shot.h"
+#include "subgames/Field.h"
 
 namespace quendle {
 namespace {
 
 constexpr int kShots = 10;
 constexpr std::int16_t kLives = 2;
-constexpr std::int16_t kFieldWidth = 800;
-constexpr std::int16_t kFieldHeight = 600;
 constexpr std::int16_t kPlayerX = 400;
 constexpr std::int16_t kPlayerY = 535;
 constexpr int kTick = 60;      // milliseconds
@@ -38,8 +37,7 @@ std::shared_ptr<CellObject_Shooter> AsEnemy(const std::shared_ptr<CellObject>& c
 
 PlayAreaObject_Shtr::PlayAreaObject_Shtr(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames)
     : CellPlayArea(world, std::move(subgames), SubgameKind::kShooter) {
-  OnMessage(Test::kContains, "select", [this](const std::string& text) { SelectCell(text); });
-  OnMessage(Test::kContains, "acceptedcell", [this](const std::string&) { AcceptCell(); });
+  TakeSelections();
 }
 
 void PlayAreaObject_Shtr::LoadGameData(const std::string& path) {

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "media/MediaWorld.h"
 #include "object/ObjectWorld.h"
+#include "subgames/Field.h"
 
 namespace quendle {
 namespace {
@@ -21,8 +22,6 @@ constexpr std::int16_t kWiggleMoves = 2;
 constexpr double kWiggleRange = 50;
 constexpr std::int16_t kFlySteps = 10;
 constexpr double kFlyOutSeconds = 2;
-constexpr int kFieldWidth = 800;
-constexpr int kFieldHeight = 600;
 constexpr double kFlyDistance = 100;
 
 }  // namespace

@@ -9,12 +9,13 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
-#include "backends/files/DiskFileSystem.h"
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
 #include "toolbelt/BenchContent.h"
+#include "toolbelt/ContentRun.h"
 #include "toolbelt/Drive.h"
-#include "toolbelt/TemporaryFolder.h"
+#include "toolbelt/Json.h"
+#include "toolbelt/Progress.h"
 
 namespace quendle {
 namespace {
@@ -34,10 +35,27 @@ double Time(int calls, const std::function<void()>& work) {
   return time.count() / calls;
 }
 
-void PrintRow(const std::string& what, double value, const char* unit) {
-  std::cout << std::left << std::setw(52) << what << std::right << std::fixed
-            << std::setprecision(2) << std::setw(12) << value << " " << unit << std::endl;
-}
+// Rows of the table, printed as they are measured, or one line of JSON each.
+class Table {
+ public:
+  explicit Table(bool json) : json_(json) {}
+  void Begin(const std::string& what) { progress_.Step(what, ++row_, kRows); }
+  void Row(const std::string& what, double value, const char* unit) {
+    progress_.Clear();
+    if (json_) {
+      std::cout << Json({{"what", what}, {"value", value}, {"unit", unit}}).dump() << std::endl;
+      return;
+    }
+    std::cout << std::left << std::setw(52) << what << std::right << std::fixed
+              << std::setprecision(2) << std::setw(12) << value << " " << unit << std::endl;
+  }
+
+ private:
+  static constexpr std::size_t kRows = 5;
+  bool json_;
+  std::size_t row_ = 0;
+  Progress progress_{std::cerr, Progress::ErrorIsTerminal()};
+};
 
 void RequireRunning(DriveSession& session) {
   if (!session.Running()) throw std::runtime_error(session.Game().Fault().text);
@@ -54,7 +72,8 @@ void Play(DriveSession& session) {
 }
 
 // Every screen is entered for the first time, then two of them in turn.
-void TimeScreens(DriveSession& session) {
+void TimeScreens(DriveSession& session, Table& table) {
+  table.Begin("screens");
   std::vector<std::string> screens;
   session.Logic().Keeper()->EnumerateScreens(screens);
   double cold = 0;
@@ -63,29 +82,31 @@ void TimeScreens(DriveSession& session) {
     cold += Time(1, [&] { Send(session, "cs_" + screen); });
   }
   if (screens.size() < 2) return;
-  PrintRow("screen load, cold", cold / 1000 / static_cast<double>(screens.size() - 1), "ms");
+  table.Row("screen load, cold", cold / 1000 / static_cast<double>(screens.size() - 1), "ms");
   int turn = 0;
   const auto change = [&] { Send(session, "cs_" + screens[static_cast<std::size_t>(++turn % 2)]); };
   change();
   change();
-  PrintRow("screen change, cached", Time(kCachedChanges, change) / 1000, "ms");
+  table.Row("screen change, cached", Time(kCachedChanges, change) / 1000, "ms");
 }
 
-void TimeFrames(DriveSession& session) {
+void TimeFrames(DriveSession& session, Table& table) {
+  table.Begin("frames");
   GameLogicLayer& logic = session.Logic();
-  PrintRow("composed frame, " + logic.CurrentScreen()->ObjectName(),
-           Time(kFrames, [&] { logic.Compose(); }), "us");
+  table.Row("composed frame, " + logic.CurrentScreen()->ObjectName(),
+            Time(kFrames, [&] { logic.Compose(); }), "us");
 }
 
-void TimeSavedGame(DriveSession& session) {
+void TimeSavedGame(DriveSession& session, Table& table) {
+  table.Begin("saved game");
   ScreenKeeper& keeper = *session.Logic().Keeper();
-  PrintRow("saved game, written", Time(kSaves, [&] { keeper.SaveGame(kSavedGame); }) / 1000, "ms");
+  table.Row("saved game, written", Time(kSaves, [&] { keeper.SaveGame(kSavedGame); }) / 1000, "ms");
   const double read = Time(kSaves, [&] {
     ScreenKeeper fresh(session.World().objects);
     fresh.LoadGame(kSavedGame);
     if (fresh.Mementos().Empty()) throw std::runtime_error("the saved game can't be read back");
   });
-  PrintRow("saved game, read", read / 1000, "ms");
+  table.Row("saved game, read", read / 1000, "ms");
 }
 
 std::vector<BenchChain> TypicalChains() {
@@ -99,7 +120,8 @@ std::vector<BenchChain> TypicalChains() {
   return chains;
 }
 
-void TimeEvents() {
+void TimeEvents(Table& table) {
+  table.Begin("mouse events");
   Faults faults;
   MemoryFileSystem files("", &faults);
   PutChainContent(files, TypicalChains());
@@ -112,7 +134,7 @@ void TimeEvents() {
     session.Logic().MapMouseCoords(static_cast<std::int16_t>(at.x),
                                    static_cast<std::int16_t>(at.y));
   };
-  PrintRow("mouse event over 60 scripted objects", Time(kEvents, event), "us");
+  table.Row("mouse event over 60 scripted objects", Time(kEvents, event), "us");
 }
 
 double PeakMegabytes() {
@@ -123,25 +145,31 @@ double PeakMegabytes() {
 
 }  // namespace
 
-void PrintBenchTable(const std::string& content) {
-  const TemporaryFolder user;
-  const std::string base = std::filesystem::canonical(content).string();
-  Faults faults;
-  std::unique_ptr<DiskFileSystem> files;
-  std::unique_ptr<DriveSession> session;
+void PrintBenchTable(const std::string& content, bool json) {
+  Table table(json);
+  table.Begin("start");
+  std::unique_ptr<ContentRun> run;
   const double start = Time(1, [&] {
-    files = std::make_unique<DiskFileSystem>(DiskFolders{base, user.Path(), ""}, faults);
-    session = std::make_unique<DriveSession>(*files, faults, base, DriveOptions{});
-    Play(*session);
-    session->Deliver([&] { session->Logic().draw(); });
-    RequireRunning(*session);
+    run = std::make_unique<ContentRun>(content);
+    Play(run->Session());
+    DriveSession& session = run->Session();
+    session.Deliver([&] { session.Logic().draw(); });
+    RequireRunning(session);
   });
-  PrintRow("start to first frame", start / 1000, "ms");
-  TimeScreens(*session);
-  TimeFrames(*session);
-  TimeSavedGame(*session);
-  PrintRow("peak memory", PeakMegabytes(), "MB");
-  TimeEvents();
+  table.Row("start to first frame", start / 1000, "ms");
+  DriveSession& session = run->Session();
+  TimeScreens(session, table);
+  TimeFrames(session, table);
+  TimeSavedGame(session, table);
+  table.Row("peak memory", PeakMegabytes(), "MB");
+  TimeEvents(table);
+}
+
+std::string ContentBesideTheProgram() {
+  std::error_code error;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+  const auto folder = program.parent_path();
+  return error || !std::filesystem::is_directory(folder / "Info") ? "" : folder.string();
 }
 
 }  // namespace quendle

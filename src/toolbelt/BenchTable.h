@@ -4,9 +4,11 @@
 
 namespace quendle {
 
-// `quendle bench` without a workload: plays a content tree and prints a table of what its frames,
-// events, screens and saved games cost on this machine. Nothing is written into the tree. Throws
-// std::runtime_error when the game fails.
-void PrintBenchTable(const std::string& content);
+// `quendle bench` without a workload: prints a table of what the engine costs on a content tree, or
+// the same as lines of JSON. Throws std::runtime_error when the game fails.
+void PrintBenchTable(const std::string& content, bool json);
+
+// The content tree that stands beside the executable; empty when none does.
+std::string ContentBesideTheProgram();
 
 }  // namespace quendle

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
+#include "backends/files/ContentHash.h"
 #include "backends/files/DiskFileSystem.h"
 #include "base/FatalError.h"
 #include "base/Text.h"
@@ -107,7 +108,9 @@ int RunDrive(const DriveSettings& settings) {
   }
   Faults faults;
   DiskFileSystem files({content, user, ""}, faults);
-  DriveSession session(files, faults, content, settings.options);
+  DriveOptions options = settings.options;
+  options.content_hash = [&content] { return HashOfContent(content); };
+  DriveSession session(files, faults, content, options);
   return RunDriveSession(session, settings.file.empty() ? std::cin : file, std::cout);
 }
 

@@ -23,6 +23,8 @@ struct DriveOptions {
   bool window_path = false;  // the first drawing path fails at start-up
   bool other_instance = false;
   std::optional<int> system_version;
+  std::optional<std::int16_t> tester;  // interval of the recorder in milliseconds; none: it is off
+  std::function<std::string()> content_hash;  // for a recording; may be empty
 };
 
 // One game that is played by commands: the platform in virtual time and the application on it.

@@ -6,6 +6,8 @@
 #include "diagnostics/PointerReport.h"
 #include "logic/GameLogicLayer.h"
 #include "object/ForwardingObject.h"
+#include "object/GameObject.h"
+#include "subgames/PlayAreaObject.h"
 #include "toolbelt/DriveCommand.h"
 #include "toolbelt/ObjectPath.h"
 #include "toolbelt/Views.h"
@@ -46,12 +48,32 @@ Json Memento(DriveSession& session, Arguments& arguments) {
   return {{"memento", DescribeMemento(**memento)}};
 }
 
-std::string OwnerOf(const ObjectWorld& world, const TimerInfo& timer) {
-  const auto* timed = world.TimedObjects.Find(std::to_string(timer.id));
-  const ObjectRef object = timed == nullptr ? nullptr : timed->lock();
-  if (object == nullptr) return EqualsNoCase(timer.callback, "OnLogicTimer") ? "GameLogic" : "";
-  const GameObject* inner = InnerObject(*object);
-  return inner == nullptr ? object->ObjectName() : inner->WorkPath();
+std::string PathOf(GameObjectInterface& object) {
+  const GameObject* inner = InnerObject(object);
+  return inner == nullptr ? object.ObjectName() : inner->WorkPath();
+}
+
+// The play area below `object` that runs on the timer; null without one.
+ObjectRef PlayAreaOfTimer(const ObjectRef& object, int id) {
+  if (object == nullptr) return nullptr;
+  const auto* area = dynamic_cast<const PlayAreaObject*>(object.get());
+  if (area != nullptr && area->GameUpdateTimerID() == id) return object;
+  for (const auto& [name, child] : object->Children()) {
+    if (ObjectRef found = PlayAreaOfTimer(child, id)) return found;
+  }
+  return nullptr;
+}
+
+std::string OwnerOf(const Globals& globals, const TimerInfo& timer) {
+  const auto* timed = globals.objects.TimedObjects.Find(std::to_string(timer.id));
+  if (const ObjectRef object = timed == nullptr ? nullptr : timed->lock()) return PathOf(*object);
+  if (EqualsNoCase(timer.callback, "OnLogicTimer")) return "GameLogic";
+  if (globals.GameLogic == nullptr) return "";
+  for (const ObjectRef& screen :
+       {globals.GameLogic->CurrentScreen(), globals.GameLogic->PreviousScreen()}) {
+    if (const ObjectRef area = PlayAreaOfTimer(screen, timer.id)) return PathOf(*area);
+  }
+  return "";
 }
 
 Json Timers(DriveSession& session, Arguments& arguments) {
@@ -59,7 +81,7 @@ Json Timers(DriveSession& session, Arguments& arguments) {
   const Globals* globals = session.Game().Game();
   Json list = Json::array();
   for (const TimerInfo& timer : session.Platform().timers.Running()) {
-    const std::string owner = globals == nullptr ? "" : OwnerOf(globals->objects, timer);
+    const std::string owner = globals == nullptr ? "" : OwnerOf(*globals, timer);
     list.push_back({{"id", timer.id},
                     {"interval", timer.interval.count()},
                     {"due", timer.due.count()},

@@ -2,127 +2,85 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <array>
 #include <iostream>
-#include <memory>
 
-#include "toolbelt/Bench.h"
-#include "toolbelt/BenchTable.h"
-#include "toolbelt/Drive.h"
-#include "toolbelt/DriveCommand.h"
-#include "toolbelt/PictureTool.h"
-#include "toolbelt/Render.h"
-#include "toolbelt/SmallestContent.h"
+#include "base/FatalError.h"
+#include "toolbelt/HelpFormatter.h"
+#include "toolbelt/ManPage.h"
+#include "toolbelt/commands/Commands.h"
 
 namespace quendle {
 namespace {
 
 constexpr int kUsageError = 2;
+constexpr const char* kMan = "--man";
 
-void AddPicture(CLI::App& belt) {
-  CLI::App* picture = belt.add_subcommand(
-      "picture",
-      "Makes a keyed 24-bit bitmap of a PNG file: hard edges at half alpha, the ground exactly "
-      "200,200,200");
-  auto input = std::make_shared<std::string>();
-  auto output = std::make_shared<std::string>();
-  picture->add_option("IN.png", *input, "The picture")->required();
-  picture->add_option("OUT.bmp", *output, "The bitmap to write")->required();
-  picture->callback([input, output] { MakeKeyedBitmap(*input, *output); });
+// In the order of the help, group by group.
+constexpr void (*kCommands[])(CLI::App&, int&) = {
+    AddDrive,  AddReplay,                       // playing
+    AddVerify, AddWalk,    AddRandom, AddTree,  // checking
+    AddNew,    AddPicture, AddRender,           // making
+    AddBench,                                   // measuring
+};
+
+constexpr const char* kFooter =
+    "`quendle COMMAND --help` tells a command's words and options, with an example.\n\n"
+    "Exit code:\n"
+    "  0  all well\n"
+    "  1  something was found, or failed\n"
+    "  2  a wrong command line\n"
+    "  3  a game ended fatally";
+
+int TellUsageError(const std::string& text) {
+  std::cerr << "quendle: " << text << "\nRun with --help for more information.\n";
+  return kUsageError;
 }
 
-void AddDrive(CLI::App& belt, int& exit_code) {
-  CLI::App* drive =
-      belt.add_subcommand("drive", "Plays the game in virtual time, driven by one command a line");
-  auto settings = std::make_shared<DriveSettings>();
-  auto path = std::make_shared<std::string>("directdraw");
-  DriveOptions& options = settings->options;
-  drive->add_option("--content", settings->content, "The content tree")
-      ->required()
-      ->check(CLI::ExistingDirectory);
-  drive->add_option("--user", settings->user,
-                    "Where everything is written; without it, the content tree");
-  drive->add_option("--edition", options.edition, "2 is the product, 1 its sibling")
-      ->check(CLI::IsMember({1, 2}))
-      ->capture_default_str();
-  drive->add_option("--seed", options.seed, "Where chance begins")->capture_default_str();
-  drive->add_option("--path", *path, "directdraw, or window: the first drawing path fails")
-      ->check(CLI::IsMember({"directdraw", "window"}))
-      ->capture_default_str();
-  drive->add_flag("--other-instance", options.other_instance, "Another instance runs already");
-  drive->add_option("--system", options.system_version, "Major version of the system");
-  drive->add_option("FILE", settings->file, "The commands; without it, standard input")
-      ->check(CLI::ExistingFile);
-  drive->footer(
-      "Each command is answered by one line of JSON. A line that begins with # or > is a\n"
-      "comment.\n"
-      "Exit code 0, or 3 when the game ended fatally. Commands:\n\n" +
-      CommandHelp() + FaultHelp());
-  drive->callback([settings, path, &exit_code] {
-    settings->options.window_path = *path == "window";
-    exit_code = RunDrive(*settings);
-  });
+int TellUnknownWord(const CLI::App& belt, const std::string& word) {
+  std::vector<std::string> names;
+  for (const CLI::App* command : belt.get_subcommands({})) names.push_back(command->get_name());
+  return TellUsageError("there is no command or word \"" + word + "\"" + DidYouMean(word, names));
 }
 
-void AddRender(CLI::App& belt, int& exit_code) {
-  CLI::App* tool = belt.add_subcommand("render", "Writes the picture of a screen as a PNG file");
-  auto words = std::make_shared<std::array<std::string, 3>>();
-  tool->add_option("DIR", (*words)[0], "The content tree")
-      ->required()
-      ->check(CLI::ExistingDirectory);
-  tool->add_option("SCREEN", (*words)[1], "Its name in the screen table")->required();
-  tool->add_option("OUT.png", (*words)[2], "The picture to write")->required();
-  tool->callback(
-      [words, &exit_code] { exit_code = RenderScreen((*words)[0], (*words)[1], (*words)[2]); });
-}
-
-void AddBench(CLI::App& belt) {
-  CLI::App* tool = belt.add_subcommand(
-      "bench", "Measures the engine: one workload, or a table for a content tree");
-  auto workload = std::make_shared<std::string>();
-  auto folder = std::make_shared<std::string>(DefaultBenchFolder());
-  auto content = std::make_shared<std::string>();
-  CLI::Option* which = tool->add_option(
-      "WORKLOAD", *workload, "W1: whole frames; W3: mouse events; any other prints nothing");
-  tool->add_option("--data", *folder, "The folder of a workload's inputs")->capture_default_str();
-  tool->add_option("--content", *content, "The content tree of the table")
-      ->check(CLI::ExistingDirectory)
-      ->excludes(which);
-  tool->callback([workload, folder, content] {
-    if (workload->empty() && content->empty()) {
-      throw CLI::RequiredError("WORKLOAD or --content");
-    }
-    if (workload->empty()) {
-      PrintBenchTable(*content);
-    } else {
-      RunBench(*workload, *folder);
-    }
-  });
-}
-
-void AddNew(CLI::App& belt) {
-  CLI::App* tool = belt.add_subcommand("new", "Makes a smallest content tree that runs");
-  auto folder = std::make_shared<std::string>();
-  tool->add_option("DIR", *folder, "A folder that is empty or not there yet")->required();
-  tool->callback([folder] { MakeNewContent(*folder); });
+// --man [COMMAND]: read here, since the parser would take a command's name for a call of it.
+int PrintManPage(const CLI::App& belt, const std::vector<std::string>& words) {
+  if (words.size() > 2) return TellUnknownWord(belt, words[2]);
+  if (words.size() < 2) {
+    std::cout << ManPageOfBelt(belt);
+    return 0;
+  }
+  for (const CLI::App* command : belt.get_subcommands({})) {
+    if (command->get_name() != words[1]) continue;
+    std::cout << ManPageOfCommand(*command);
+    return 0;
+  }
+  return TellUnknownWord(belt, words[1]);
 }
 
 }  // namespace
 
 int RunToolBelt(std::vector<std::string> words) {
   CLI::App belt("The tool belt of the clinic's authors. No window is ever needed.", "quendle");
+  belt.formatter(std::make_shared<HelpFormatter>());
+  belt.get_help_ptr()->description("Tell all this");
   belt.require_subcommand(0, 1);  // none at all is answered below, with the help
+  belt.footer(kFooter);
   int exit_code = 0;
-  AddDrive(belt, exit_code);
-  AddPicture(belt);
-  AddRender(belt, exit_code);
-  AddNew(belt);
-  AddBench(belt);
+  for (const auto add : kCommands) add(belt, exit_code);
+  belt.add_option(kMan, "Print this page of the manual, or a command's, as roff")
+      ->option_text("[COMMAND]");
+  if (!words.empty() && words.front() == kMan) return PrintManPage(belt, words);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);
+  } catch (const CLI::Success& asked) {
+    // Asking for help excuses no word that nothing knows.
+    const std::vector<std::string> unknown = belt.remaining(true);
+    return unknown.empty() ? belt.exit(asked) : TellUnknownWord(belt, unknown.front());
+  } catch (const CLI::ExtrasError&) {
+    return TellUnknownWord(belt, belt.remaining(true).front());
   } catch (const CLI::ParseError& error) {
-    return belt.exit(error) == 0 ? 0 : kUsageError;
+    return TellUsageError(error.what());
   } catch (const std::exception& error) {
     std::cerr << "quendle: " << error.what() << "\n";
     return 1;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "backends/files/MemoryFileSystem.h"
+#include "base/Watch.h"
 #include "diagnostics/Debomb_Window.h"
 #include "platform/Faults.h"
 
@@ -24,6 +25,23 @@ TEST_F(TestingObjectTest, AMessageAtTheThresholdIsWrittenAndOneAboveItIsNot) {
   log.LogEvent("eleven", 11, "general");
   log.LogEvent("one", 1, "general");
   EXPECT_EQ(File("general.txt"), "ten\r\none\r\n");
+}
+
+TEST_F(TestingObjectTest, WhatIsLoggedIsTraced) {
+  struct Lines : Tracer {
+    void Trace(const TraceEvent& event) override {
+      lines += std::string(event.to) + ": " + std::string(event.text) + "\n";
+      EXPECT_EQ(event.kind, TraceKind::kLog);
+    }
+    std::string lines;
+  } lines;
+  Watch watch;
+  watch.tracer = &lines;
+  TestingObject traced(files, "C:\\game", &watch);
+  traced.Initialize("general", "general.txt", nullptr, 10);
+  traced.LogEvent("told", 10, "general");
+  traced.LogEvent("too slight", 11, "general");
+  EXPECT_EQ(lines.lines, "general: told\n");
 }
 
 TEST_F(TestingObjectTest, CategoriesIgnoreCase) {

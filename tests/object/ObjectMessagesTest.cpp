@@ -403,8 +403,9 @@ TEST_F(ObjectMessages, TwoObjectsThatExciteEachOtherAreFatal) {
     hall_->AddChildObject(bench_.Load(name));
   }
   hall_->TurnOn();
-  EXPECT_EQ(FatalOf([&] { Send("toobj_ping_useraction_x"); }).substr(0, 61),
-            "more than 200 levels deep: the content goes round in circles ");
+  EXPECT_EQ(FatalOf([&] { Send("toobj_ping_useraction_x"); }).substr(0, 90),
+            "Info\\ping\\script_main.txt:2: more than 200 levels deep: the content goes round in "
+            "circles ");
   EXPECT_NE(bench_.watch.depth.FailedText().find("useraction_x"), std::string::npos);
 }
 

@@ -17,14 +17,16 @@ namespace quendle {
 // Photographs by path; any other path is refused.
 class KnownPictures : public PictureLoader {
  public:
-  LoadedPicture LoadPicture(const std::string& native_path) override {
+  LoadedPicture LoadPicture(const std::string& native_path, PictureLimit limit) override {
     asked.push_back(native_path);
+    limits.push_back(limit);
     auto found = pictures.find(native_path);
     if (found == pictures.end()) return {nullptr, "It can't be used."};
     return {found->second, {}};
   }
   std::map<std::string, SharedPicture> pictures;
   std::vector<std::string> asked;
+  std::vector<PictureLimit> limits;
 };
 
 // Colours that differ from pixel to pixel, in every channel its own way.

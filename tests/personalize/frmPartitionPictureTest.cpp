@@ -209,7 +209,13 @@ TEST_F(frmPartitionPictureTest, OutlineAndPhotographScrollTogetherAndEveryPixelI
   Click({{30, 40}, {80, 20}});
   Control& across = At("HScroll1");
   ASSERT_TRUE(across.visible);
+  EXPECT_EQ(across.value, across.maximum / 2) << "the middle is seen first";
+  EXPECT_EQ(At("VScroll1").value, At("VScroll1").maximum / 3);
+  host.Set("HScroll1", 0, 0);
+  host.Set("VScroll1", 0, 0);
   const Rect before = At("Image1").area;
+  EXPECT_EQ(before.left, At("Image1").clip.left) << "the first column is seen";
+  EXPECT_EQ(before.top, At("Image1").clip.top);
   const Rect line = At("Line1", 2).area;
   const int right = across.maximum;
   ASSERT_TRUE(host.Set("HScroll1", 0, right));
@@ -236,23 +242,47 @@ TEST_F(frmPartitionPictureTest, AFaceIsCutWhereItIsInAScrolledPhotograph) {
   EXPECT_TRUE(Written("face.bmp") == ExpectedFace(outline));
 }
 
-TEST_F(frmPartitionPictureTest, ACameraPhotographIsMadeSmallerSoThatEveryPointCanBeClicked) {
-  loader.pictures["/camera.jpg"] = ColorfulPicture({4032, 3024});
+TEST_F(frmPartitionPictureTest, APhotographIsAskedForThatCanBeClickedEverywhere) {
   loader.pictures["/exact.jpg"] = ColorfulPicture({2184, 100});
-  ToPartition("/camera.jpg");
-  EXPECT_EQ(At("Image1").area.Width(), 1008);
-  EXPECT_EQ(At("Image1").area.Height(), 756);
-  const Picture& seen = *At("Image1").image;
-  unsigned red = 0;
-  for (int i = 0; i < 16; ++i) red += ColorAt(40 + i % 4, 80 + i / 4) >> 16;
-  EXPECT_EQ(seen.At(10, 20) >> 16, (red + 8) / 16) << "the mean of 4 by 4";
-  Click({{1007, 755}});
-  EXPECT_EQ(Lines(), 1);
-  PressPicture(1);
   ToPartition("/exact.jpg");
+  EXPECT_EQ(loader.limits.back(), (PictureLimit{2184, 1200})) << "2184 pixels are 32760 twips";
   EXPECT_EQ(At("Image1").area.Width(), 2184);
   Click({{2183, 99}});
   EXPECT_EQ(Lines(), 1);
+  EXPECT_LE(loader.limits.front().most, 600) << "for the preview less is enough";
+}
+
+TEST_F(frmPartitionPictureTest, ThePhotographStaysInMemoryOnlyWhileItCanBeSeen) {
+  const SharedPicture& photograph = loader.pictures["/photos/child.jpg"];
+  select.Open();
+  Choose("/photos/child.jpg");
+  const long without = photograph.use_count();
+  const std::size_t bitmaps = backend.gdi.LiveBitmaps();
+  const auto held = [&] { return photograph.use_count() > without; };
+  PressPicture(3);
+  EXPECT_TRUE(held());
+  PressPicture(1);
+  EXPECT_FALSE(held()) << "back to stage 1";
+  PressPicture(3);
+  PressPicture(11);
+  EXPECT_FALSE(held()) << "closed";
+  EXPECT_EQ(backend.gdi.LiveBitmaps(), bitmaps);
+
+  const std::vector<int> ways_out = {11, 3};  // of stage 3: closed, and on to the end
+  for (int way : ways_out) {
+    select.Open();
+    PressPicture(3);
+    Click({{1, 1}, {20, 2}, {3, 30}});
+    PressPicture(3);
+    ASSERT_EQ(InView(), "frmEditDoctorCursor");
+    EXPECT_TRUE(held()) << "stage 3 may go back to it";
+    PressPicture(1);
+    EXPECT_EQ(At("Image1").image, photograph);
+    Click({{1, 1}, {20, 2}, {3, 30}});
+    PressPicture(3);
+    PressPicture(way);
+    EXPECT_FALSE(held()) << way;
+  }
 }
 
 TEST_F(frmPartitionPictureTest, APressBesideThePhotographIsNoPoint) {

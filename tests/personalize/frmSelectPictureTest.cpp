@@ -34,6 +34,8 @@ TEST_F(frmSelectPictureTest, CancellingKeepsTheLastPreview) {
   const SharedPicture preview = At("Image1").image;
   Choose("cancel");
   EXPECT_EQ(At("Image1").image, preview);
+  EXPECT_EQ(loader.asked.size(), 1u);
+  EXPECT_EQ(boxes.Shown().size(), 2u) << "the two choosers alone";
   PressPicture(3);
   EXPECT_EQ(loader.asked.back(), "/photos/child.jpg");
   EXPECT_EQ(InView(), "frmPartitionPicture");
@@ -74,6 +76,17 @@ TEST_F(frmSelectPictureTest, ADroppedPhotographIsTakenLikeAChosenOne) {
   EXPECT_EQ(boxes.Shown().back().text, "It can't be used.");
   PressPicture(3);
   EXPECT_EQ(InView(), "frmPartitionPicture");
+}
+
+TEST_F(frmSelectPictureTest, NothingCanBeDroppedOnTheOtherStages) {
+  ToPartition();
+  const std::size_t asked = loader.asked.size();
+  EXPECT_FALSE(host.Drop("/photos/child.jpg"));
+  Click({{1, 1}, {20, 2}, {3, 30}});
+  PressPicture(3);
+  ASSERT_EQ(InView(), "frmEditDoctorCursor");
+  EXPECT_FALSE(host.Drop("/photos/child.jpg"));
+  EXPECT_EQ(loader.asked.size(), asked);
 }
 
 TEST_F(frmSelectPictureTest, GoingBackFromStage2ShowsTheSamePreview) {
@@ -127,6 +140,26 @@ TEST_F(RemovingAPhotograph, IsAskedFirst) {
   boxes.QueueAnswer("no");
   host.Press("lblRemove");
   EXPECT_TRUE(Written("face.bmp") == *ColorfulPicture({3, 3}));
+}
+
+TEST_F(RemovingAPhotograph, IsOfferedOnlyWhileThereIsOne) {
+  EXPECT_TRUE(At("lblRemove").visible);
+  host.Press("lblRemove");
+  EXPECT_FALSE(At("lblRemove").visible);
+  select.Open();
+  EXPECT_FALSE(At("lblRemove").visible);
+  PutPicture("doctor.bmp", *ColorfulPicture({4, 4}));
+  select.Open();
+  EXPECT_TRUE(At("lblRemove").visible) << "one of the two is enough";
+}
+
+TEST_F(RemovingAPhotograph, OfADamagedPictureIsOfferedToo) {
+  host.Press("lblRemove");
+  files.Put(std::string(kFolder) + "face.bmp", "BM nonsense");
+  select.Open();
+  EXPECT_TRUE(At("lblRemove").visible);
+  EXPECT_TRUE(host.Press("lblRemove"));
+  EXPECT_TRUE(Written("face.bmp") == *ColorfulPicture({32, 32}));
 }
 
 TEST_F(frmSelectPictureTest, WithoutADrawnChildToComeBackNothingIsOffered) {

@@ -210,7 +210,8 @@ TEST(ScriptFaults, TooManyNestedBlocksAreFatalAndNotTheEndOfTheStack) {
   std::string text;
   for (int i = 0; i < 100000; ++i) text += "begin\n";
   EXPECT_EQ(ParseFault(text),
-            "more than 200 levels deep: the content goes round in circles at file \"begin\"");
+            "s.txt:201: more than 200 levels deep: the content goes round in circles at file "
+            "\"begin\"");
 }
 
 TEST(ScriptPrinting, AScriptPrintsBackAsItsSource) {

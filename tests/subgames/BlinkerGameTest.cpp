@@ -287,5 +287,55 @@ TEST_F(BlinkerGame, TurningOffReachesBricksBallAndPaddle) {
   EXPECT_FALSE(Ball().ObjectOn());
 }
 
+TEST_F(BlinkerGame, OnADiagonalTheAngleMissesItsBoundByTheConversion) {
+  bench.TurnOnGame();
+  EXPECT_EQ(Bounce(300, 100, -10, 10), "10,-10") << "just below 135 degrees";
+  EXPECT_EQ(Bounce(300, 100, -10, -10), "10,10") << "just above 225 degrees";
+  EXPECT_EQ(Bounce(300, 100, 10, -10), "10,-10") << "just below 315 degrees";
+}
+
+TEST_F(BlinkerGame, ThePaddleTurnsTheBallBeforeTheBallMoves) {
+  bench.StartGame();
+  bench.Mouse(400, 10, "handmouseover");
+  PutBall(300, 300);
+  bench.GameTick();  // the paddle takes its place
+  PutBall(430, 540, 10, 10);
+  bench.GameTick();
+  EXPECT_EQ(bench.LastSound(Ball()), "bounce");
+  EXPECT_EQ(BallAt(), "440,537") << "one step of its new speed";
+}
+
+TEST_F(BlinkerGame, TheBallReachesTheGutterWithItsFoot) {
+  bench.StartGame();
+  bench.Mouse(10, 10, "handmouseover");
+  PutBall(500, 583, 10, 0);
+  bench.GameTick();
+  EXPECT_EQ(bench.Counter("m_nBalls"), 3);
+  PutBall(500, 584, 10, 0);
+  bench.GameTick();
+  EXPECT_EQ(bench.Counter("m_nBalls"), 2);
+}
+
+TEST_F(BlinkerGame, TheGutterItselfMakesNoSound) {
+  bench.TurnOnGame();
+  PutBall(500, 590);
+  Ball().Update();
+  EXPECT_TRUE(Ball().DidWeHitTheGutter());
+  EXPECT_EQ(bench.LastSound(Ball()), "");
+  EXPECT_EQ(BallAt(), "510,580") << "and it turns upward";
+}
+
+TEST_F(BlinkerGame, TurningOnAgainRefillsTheBalls) {
+  bench.StartGame();
+  bench.Mouse(10, 10, "handmouseover");
+  PutBall(500, 590);
+  bench.GameTick();
+  EXPECT_EQ(bench.Counter("m_nBalls"), 2);
+  bench.game->TurnOff();
+  bench.game->TurnOn();
+  EXPECT_EQ(bench.Counter("m_nBalls"), 3);
+  EXPECT_EQ(bench.Counter("m_nRunState"), 1);
+}
+
 }  // namespace
 }  // namespace quendle

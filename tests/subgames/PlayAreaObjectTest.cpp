@@ -157,6 +157,22 @@ TEST(PlayAreaTimer, AnAreaThatIsDroppedLeavesNoTimer) {
   bench.Tick(200);
 }
 
+TEST(PlayAreaTimer, AnAreaThatWasTakenOutOfItsFrameTakesItsTimerAlong) {
+  BlinkerBench bench;
+  bench.StartGame();
+  bench.game->Children().Remove("area");
+  bench.area.reset();
+  EXPECT_TRUE(bench.backend.timers.Running().empty());
+}
+
+TEST(PlayAreaTimer, AnAreaThatIsTurnedOnTwiceHasOneTimer) {
+  BlinkerBench bench;
+  bench.StartGame();
+  bench.game->TurnOn();
+  EXPECT_EQ(bench.backend.timers.Running().size(), 1u);
+  EXPECT_EQ(OnlyTimer(bench).id, bench.area->GameUpdateTimerID());
+}
+
 TEST(PlayAreaTimer, TwoAreasOfOneGameDoNotTickEachOther) {
   BlinkerBench bench;
   bench.StartGame();
@@ -198,6 +214,17 @@ TEST(PlayAreaMessages, StopGameMayStandAnywhere) {
   EXPECT_FALSE(bench.Cell("cell1").Visible());
   bench.area->Send("startgame");
   EXPECT_TRUE(bench.Cell("cell1").Visible());
+}
+
+TEST(PlayAreaMessages, StoppingGoesBackToTheFirstState) {
+  BlinkerBench bench;
+  bench.files.Put("\\info\\area_states.txt",
+                  Text({"default", "nothing", "nothing", "nothing", "", "",  //
+                        "busy", "nothing", "nothing", "nothing", "", ""}));
+  bench.StartGame();
+  bench.area->ProcessState("busy");
+  bench.area->Send("stopgame");
+  EXPECT_EQ(bench.area->CurrentState(), "default");
 }
 
 TEST(PlayAreaMessages, StopGameDoesNothingWhileNoGameRuns) {
@@ -265,8 +292,11 @@ TEST(PlayAreaSelection, ASelectionWithADashResetsItsCellAtTheNextOne) {
 TEST(PlayAreaSelection, AnAcceptedCellLeavesTheFieldButStaysInTheBlinkersList) {
   BlinkerBench bench;
   bench.TurnOnGame();
+  ObjectRef cell = *bench.area->Children().Find("cell3");
+  EXPECT_TRUE(cell->ObjectOn());
   bench.area->Send("selectcell3-a");
   bench.area->Send("acceptedcell");
+  EXPECT_FALSE(cell->ObjectOn());
   EXPECT_FALSE(Has(bench.CellNames(), "cell3"));
   EXPECT_EQ(bench.Counter("m_colCells"), 32);
   EXPECT_EQ(bench.TextField(*bench.area, "m_strSelected"), "");
@@ -316,6 +346,20 @@ TEST(PlayAreaMouse, OtherMessagesAreIgnored) {
   EXPECT_EQ(bobbler.Cell("cell1").CurrentState(), "default");
   bobbler.Mouse(1, 1, "handmouseover");
   EXPECT_EQ(bobbler.Cell("cell1").CurrentState(), "bad") << "cells' scripts see the pointer";
+}
+
+TEST(PlayAreaMouse, AGameThatACellsScriptStopsTakesNothingMoreOfTheClick) {
+  ShooterBench bench;
+  bench.PutCell("player", 40, 30, {"default", "bad"}, false,
+                "begin\nif action = *mouseclick\nmtp stopgame\nendif\nend\n");
+  bench.StartGame();
+  for (int i = 0; i < 5; ++i) {
+    bench.NoFire(2);
+    bench.GameTick();
+  }
+  bench.Click(405, 540);
+  EXPECT_EQ(bench.Counter("m_bStopped"), 1);
+  EXPECT_EQ(bench.Counter("m_nFireDelay"), 0) << "nothing was fired";
 }
 
 TEST(PlayAreaMouse, TheSelectionIsAppendedToTheMessage) {

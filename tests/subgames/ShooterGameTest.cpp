@@ -35,6 +35,23 @@ struct ShooterGame : testing::Test {
     return count;
   }
 
+  // Whether a good shot at this place from an enemy's, which has 40 by 30 pixels, hits it. The shot
+  // has 4 by 10.
+  bool StrikesEnemy(int dx, int dy) {
+    auto& enemy = bench.CellAs<CellObject_Shooter>("cell21");
+    enemy.SetVisible(true);
+    auto& shot = Shot(1);
+    shot.Reset();
+    shot.SetVisible(true);
+    shot.SetGoodCell(true);
+    // Where the enemy will stand in this tick, before the shots are looked at.
+    const auto x = enemy.XGoal() + bench.Number(enemy, "side offset");
+    shot.Setxpos(static_cast<std::int16_t>(x + dx));
+    shot.Setypos(static_cast<std::int16_t>(enemy.ypos() + dy));
+    QuietTick();
+    return !enemy.Visible();
+  }
+
   ShooterBench bench;
 };
 
@@ -304,6 +321,22 @@ struct PlayerHits : ShooterGame {
     shot.Setxpos(static_cast<std::int16_t>(player.xpos() + 10));
     shot.Setypos(535);
   }
+  // Whether an enemy shot hits the player, when its foot is at this place from the player's.
+  bool StrikesPlayer(int dx, int foot) {
+    bench.game->TurnOff();
+    bench.game->TurnOn();
+    bench.area->Send("startgame");
+    Settle();
+    auto& player = bench.Cell("cell111");
+    auto& shot = Shot(1);
+    shot.Reset();
+    shot.SetVisible(true);
+    shot.SetGoodCell(false);
+    shot.Setxpos(static_cast<std::int16_t>(player.xpos() + dx));
+    shot.Setypos(static_cast<std::int16_t>(player.ypos() + foot - shot.height()));
+    QuietTick();
+    return bench.Counter("m_nLives") == 1;
+  }
 };
 
 TEST_F(PlayerHits, TwoHitsLoseTheGame) {
@@ -382,6 +415,31 @@ TEST_F(ShooterGame, ACellSwitchesItsState) {
   EXPECT_EQ(enemy.CurrentState(), "default");
 }
 
+TEST_F(ShooterGame, TurningOnACellAnewForgetsItsSwitchAndItsHit) {
+  bench.TurnOnGame();
+  auto& enemy = bench.CellAs<CellObject_Shooter>("cell21");
+  enemy.SwitchState();
+  enemy.SetHitRecently(4);
+  enemy.TurnOn(800, 600);
+  EXPECT_EQ(enemy.CellState(), 0);
+  EXPECT_EQ(enemy.HitRecently(), 0);
+}
+
+TEST_F(ShooterGame, TheDirectivesOfACellHaveNoEffect) {
+  auto cell = std::make_shared<CellObject_Shooter>(bench.world);
+  LoadArguments arguments;
+  arguments.name = "enemy";
+  arguments.data_file = "\\info\\enemy.txt";
+  arguments.depth = "0";
+  arguments.child_list = "nothing";
+  arguments.outer = cell;
+  arguments.directives = "state_bad visible_off xpos_70";
+  cell->LoadObject(arguments);
+  EXPECT_EQ(cell->CurrentState(), "default");
+  EXPECT_TRUE(cell->Visible());
+  EXPECT_EQ(cell->xpos(), 0);
+}
+
 TEST_F(ShooterGame, AShotThatIsNotDestroyedAfterAllStillHasTwoTicksToLive) {
   bench.TurnOnGame();
   Shot(1).SetGettingDestroyed(false);
@@ -394,6 +452,85 @@ TEST_F(ShooterGame, TheDownOffsetOfALongGameStopsGrowing) {
   auto& enemy = bench.CellAs<CellObject_Shooter>("cell21");
   for (int i = 0; i < 4200 * 51; ++i) enemy.Update();
   EXPECT_EQ(bench.Number(enemy, "down offset"), 32767);
+}
+
+TEST_F(ShooterGame, TheGeneratorIsSeededForTheFieldAndInEachEnemysTick) {
+  Start();
+  EXPECT_EQ(bench.backend.random.Seeds(), 1);
+  QuietTick();
+  EXPECT_EQ(bench.backend.random.Seeds(), 3) << "two enemies";
+}
+
+TEST_F(ShooterGame, AnEnemyFiresWhenTheRoundedDrawIsOne) {
+  Start();
+  Settle();
+  for (const auto& [draw, shots] :
+       {std::pair{0.49, 0}, std::pair{0.51, 1}, std::pair{1.49, 1}, std::pair{1.51, 0}}) {
+    bench.Queue({draw / 150, 0});
+    bench.GameTick();
+    EXPECT_EQ(VisibleShots(), shots) << draw;
+    for (int i = 1; i <= 10; ++i) Shot(i).SetVisible(false);
+  }
+}
+
+TEST_F(ShooterGame, AShotHitsAnEnemyWithItsUpperCornersAlone) {
+  Start();
+  Settle();
+  EXPECT_TRUE(StrikesEnemy(10, 10));
+  EXPECT_TRUE(StrikesEnemy(-3, 10)) << "the right corner";
+  EXPECT_TRUE(StrikesEnemy(38, 10)) << "the left corner";
+  EXPECT_FALSE(StrikesEnemy(-5, 10));
+  EXPECT_FALSE(StrikesEnemy(10, -5)) << "only its foot is on the enemy";
+}
+
+TEST_F(PlayerHits, AShotHitsThePlayerWithItsLowerCornersAlone) {
+  Start();
+  EXPECT_TRUE(StrikesPlayer(10, 5));
+  EXPECT_TRUE(StrikesPlayer(-3, 5)) << "the right corner";
+  EXPECT_TRUE(StrikesPlayer(38, 5)) << "the left corner";
+  EXPECT_FALSE(StrikesPlayer(-5, 5));
+  EXPECT_FALSE(StrikesPlayer(10, 35)) << "only its head is on the player";
+}
+
+TEST_F(ShooterGame, AnEnemyIsSparedForAsManyTicksAsItWasHit) {
+  Start();
+  auto& enemy = bench.CellAs<CellObject_Shooter>("cell21");
+  enemy.SetHitRecently(1);
+  QuietTick();
+  EXPECT_EQ(enemy.HitRecently(), 0);
+}
+
+TEST_F(ShooterGame, AnEnemyShotStillFliesAtTheFoot) {
+  Start();
+  Settle();
+  bench.Mouse(10, 10, "handmouseover");
+  Area().EnemyFire(700, 588);
+  Ticks(2);
+  EXPECT_EQ(Shot(1).ypos(), 600);
+  EXPECT_TRUE(Shot(1).Visible());
+  QuietTick();
+  EXPECT_EQ(Shot(1).ypos(), 612) << "it moved on from 600";
+  EXPECT_FALSE(Shot(1).Visible());
+  Area().EnemyFire(700, 589);
+  Ticks(2);
+  EXPECT_EQ(Shot(1).ypos(), 601);
+  EXPECT_FALSE(Shot(1).Visible()) << "one pixel further it is gone";
+}
+
+TEST_F(ShooterGame, AShotThatHasDiedIsWholeAgainWhenItIsFired) {
+  Start();
+  Settle();
+  EXPECT_EQ(bench.Number(Shot(1), "life"), 100);
+  Shot(1).SetVisible(true);
+  Shot(1).SetGettingDestroyed(true);
+  EXPECT_EQ(Shot(1).CurrentState(), "bad");
+  Ticks(3);
+  EXPECT_FALSE(Shot(1).Visible());
+  EXPECT_EQ(bench.Number(Shot(1), "life"), 100) << "what is invisible doesn't die again at once";
+  bench.Click(600, 300);
+  EXPECT_TRUE(Shot(1).Visible());
+  EXPECT_EQ(Shot(1).CurrentState(), "default");
+  EXPECT_FALSE(Shot(1).GettingDestroyed());
 }
 
 }  // namespace

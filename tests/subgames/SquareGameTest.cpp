@@ -382,5 +382,90 @@ TEST(SquareTile, MoreTilesThanTheBoardHoldsAreNoPlace) {
   EXPECT_EQ(bench.Counter("m_bAnimating"), 0);
 }
 
+TEST_F(SquareGame, TheStartIsRoundedHalfToEven) {
+  for (const auto& [time, start] :
+       {std::pair{1000.5, 1000}, std::pair{1001.5, 1002}, std::pair{1000.6, 1001}}) {
+    SquareBench fresh;
+    fresh.backend.clock.SetTimeOfDay(time);
+    fresh.StartGame();
+    EXPECT_EQ(fresh.Counter("m_lStartTime"), start) << time;
+  }
+}
+
+TEST_F(SquareGame, TheTwoSecondsOfTheFlightCountFromTheSolution) {
+  bench.backend.clock.SetTimeOfDay(1000);
+  Start(kOrdered);
+  ClickPlace(6);
+  Ticks(8);
+  ClickPlace(9);
+  bench.backend.clock.SetTimeOfDay(1050.4);
+  Ticks(7);
+  EXPECT_EQ(bench.Counter("m_bSolved"), 1);
+  EXPECT_EQ(bench.Counter("m_lStartTime"), 1050);
+  bench.backend.clock.SetTimeOfDay(1051.9);
+  bench.GameTick();
+  EXPECT_TRUE(bench.top->messages.empty());
+  bench.backend.clock.SetTimeOfDay(1052.1);
+  bench.GameTick();
+  EXPECT_EQ(bench.top->messages, Lines{"subgame_won"});
+}
+
+TEST_F(SquareGame, OfTwoTilesWithOneStateTheLastCounts) {
+  bench.files.Put("\\info\\board.txt", Text({"\\info\\tile.txt", "120", "3", "100", "200", "50",
+                                             "t1", "t2", "t3", "t4", "t5", "t6", "t7", "t1"}));
+  Start(kOrdered);
+  ClickPlace(1);
+  EXPECT_EQ(bench.Board(), "1 2 3 4 5 6 7 0 8") << "tile 8 counts, which is beside the gap";
+}
+
+TEST_F(SquareGame, TurningOnTellsTheFrameInThisOrder) {
+  bench.LoadGame();
+  struct NotedByTheFrame : Tracer {
+    void Trace(const TraceEvent& event) override {
+      if (event.kind == TraceKind::kMessage && event.to == "game") texts.emplace_back(event.text);
+    }
+    Lines texts;
+  } tracer;
+  bench.watch.tracer = &tracer;
+  bench.game->TurnOn();
+  bench.watch.tracer = nullptr;
+  EXPECT_EQ(tracer.texts, (Lines{"hideobj_HOK1", "hideobj_EOK1", "showobj_Play1", "showobj_Help1",
+                                 "hideobj_Scoring1"}));
+}
+
+TEST_F(SquareGame, StoppingGoesBackToTheFirstStateAndShowsThePlayButton) {
+  bench.files.Put("\\info\\area_states.txt",
+                  Text({"default", "nothing", "nothing", "nothing", "", "",  //
+                        "busy", "nothing", "nothing", "nothing", "", ""}));
+  Start(kOrdered);
+  bench.area->ProcessState("busy");
+  (*bench.game->Children().Find("Play1"))->SetVisible(false);
+  bench.area->Send("stopgame");
+  EXPECT_EQ(bench.area->CurrentState(), "default");
+  EXPECT_TRUE(bench.IsShown("Play1"));
+}
+
+TEST_F(SquareGame, AGameThatIsStoppedInTheMiddleOfAMoveLeavesTheNextOneNothing) {
+  Start(kOrdered);
+  ClickPlace(1);
+  EXPECT_TRUE(Animating());
+  bench.area->Send("stopgame");
+  bench.area->Send("startgame");
+  EXPECT_FALSE(Animating());
+  EXPECT_EQ(bench.Counter("m_nWiggles"), 0);
+}
+
+TEST_F(SquareGame, AGameThatIsStoppedWhenSolvedLeavesTheNextOneUnsolved) {
+  Start(kOrdered);
+  ClickPlace(6);
+  Ticks(8);
+  ClickPlace(9);
+  Ticks(7);
+  EXPECT_EQ(bench.Counter("m_bSolved"), 1);
+  bench.area->Send("stopgame");
+  bench.area->Send("startgame");
+  EXPECT_EQ(bench.Counter("m_bSolved"), 0);
+}
+
 }  // namespace
 }  // namespace quendle

@@ -10,7 +10,6 @@
 #include "toolbelt/FrameHash.h"
 #include "toolbelt/KeyedPicture.h"
 #include "toolbelt/PngFile.h"
-#include "toolbelt/SmallestContent.h"
 #include "toolbelt/ToolBelt.h"
 
 namespace quendle {
@@ -85,43 +84,6 @@ TEST(PictureTool, AMissingOrDamagedPictureFails) {
     EXPECT_THROW(ReadPng(folder.File("cut.png")), PictureError) << size;
   }
   EXPECT_FALSE(std::filesystem::exists(folder.File("out.bmp")));
-}
-
-TEST(ToolBelt, UnknownWordsAreAUsageError) {
-  EXPECT_EQ(RunToolBelt({}), 2);
-  EXPECT_EQ(RunToolBelt({"dance"}), 2);
-  EXPECT_EQ(RunToolBelt({"picture", "one"}), 2);
-  EXPECT_EQ(RunToolBelt({"drive", "--content", "/no/such/folder"}), 2);
-  EXPECT_EQ(RunToolBelt({"--help"}), 0);
-}
-
-TEST(ToolBelt, ANewTreeIsMadeOnlyWhereNothingIs) {
-  Folder folder;
-  EXPECT_EQ(RunToolBelt({"new", folder.File("tree")}), 0);
-  EXPECT_TRUE(std::filesystem::exists(folder.path / "tree/Info/screens.txt"));
-  EXPECT_EQ(RunToolBelt({"new", folder.File("tree")}), 1);
-}
-
-TEST(ToolBelt, AScreenIsRenderedAndTheTreeStaysAsItWas) {
-  Folder folder;
-  MakeNewContent(folder.File("tree"));
-  const std::string picture = folder.File("hall.png");
-  EXPECT_EQ(RunToolBelt({"render", folder.File("tree"), "hall", picture}), 0);
-  const SheerPicture hall = ReadPng(picture);
-  EXPECT_EQ(hall.width, 800);
-  EXPECT_EQ(hall.height, 600);
-  EXPECT_EQ(hall.pixels[799] & 0xFFFFFF, 0xF2E2BFu);
-  EXPECT_FALSE(std::filesystem::exists(folder.path / "tree/GameRunning.txt"));
-  EXPECT_EQ(RunToolBelt({"render", folder.File("tree"), "hell", picture}), 1);
-  std::filesystem::remove(folder.path / "tree/Info/screens.txt");
-  EXPECT_EQ(RunToolBelt({"render", folder.File("tree"), "hall", picture}), 3);
-}
-
-TEST(ToolBelt, ABenchWithoutItsInputsFails) {
-  Folder folder;
-  EXPECT_EQ(RunToolBelt({"bench", "W1", "--data", folder.File("")}), 1);
-  EXPECT_EQ(RunToolBelt({"bench", "W3", "--data", folder.File("")}), 1);
-  EXPECT_EQ(RunToolBelt({"bench", "W2", "--data", folder.File("")}), 0);
 }
 
 TEST(FrameHash, IsTheSameOnEveryMachine) {

@@ -10,6 +10,7 @@ extern "C" {
 
 #include "backends/codecs/PictureFrame.h"
 #include "backends/codecs/PictureHeader.h"
+#include "backends/codecs/PictureShrinker.h"
 #include "backends/raster/BitmapReader.h"
 
 namespace quendle {
@@ -20,6 +21,8 @@ constexpr const char* kOtherKind =
 constexpr const char* kDamaged =
     "This photograph is damaged and can't be used. Please choose another one.";
 constexpr std::int64_t kMillion = 1'000'000;
+// Decoders round the sides up to whole blocks before they count the points.
+constexpr std::int64_t kMostWithBlocks = kMostPicturePoints / 4 * 5;
 
 struct FreeCodec {
   void operator()(AVCodecContext* context) const { avcodec_free_context(&context); }
@@ -57,7 +60,7 @@ Codec OpenCodec(PictureKind kind) {
   const AVCodec* decoder = avcodec_find_decoder(CodecOf(kind));
   Codec codec(decoder == nullptr ? nullptr : avcodec_alloc_context3(decoder));
   if (codec == nullptr) return nullptr;
-  codec->max_pixels = kMostPicturePoints;
+  codec->max_pixels = kMostWithBlocks;
   codec->err_recognition = AV_EF_EXPLODE;
   codec->thread_count = 1;
   // The same pixels on every machine.
@@ -79,10 +82,11 @@ Packet MakePacket(std::string_view bytes) {
 }
 
 Frame DecodeFrame(AVCodecContext& codec, std::string_view bytes) {
-  const Packet packet = MakePacket(bytes);
+  Packet packet = MakePacket(bytes);
   Frame frame(av_frame_alloc());
   if (packet == nullptr || frame == nullptr) return nullptr;
   if (avcodec_send_packet(&codec, packet.get()) < 0) return nullptr;
+  packet.reset();
   avcodec_send_packet(&codec, nullptr);  // nothing follows: what is there comes out
   if (avcodec_receive_frame(&codec, frame.get()) < 0) return nullptr;
   if (frame->decode_error_flags != 0 || (frame->flags & AV_FRAME_FLAG_CORRUPT) != 0) return nullptr;
@@ -94,33 +98,37 @@ int OrientationOf(const AVFrame& frame) {
   return entry == nullptr ? 1 : std::atoi(entry->value);
 }
 
-DecodedPicture DecodeWithLibrary(std::string_view bytes, PictureKind kind) {
+DecodedPicture DecodeWithLibrary(std::string_view bytes, PictureKind kind, PictureLimit limit) {
   const Codec codec = OpenCodec(kind);
   if (codec == nullptr) return {{}, kOtherKind};
   const Frame frame = DecodeFrame(*codec, bytes);
   if (frame == nullptr) return {{}, kDamaged};
-  Picture picture = PictureOfFrame(*frame);
+  Picture picture = PictureOfFrame(*frame, limit);
   if (picture.Empty()) return {{}, kOtherKind};
   return {Upright(std::move(picture), OrientationOf(*frame)), {}};
 }
 
 // The common bitmaps need no library; the rest (few colours, run lengths) goes to it.
-DecodedPicture DecodeBitmap(std::string_view bytes) {
-  BitmapFile file = ReadBitmapFile(bytes);
-  if (!file.problem.empty()) return DecodeWithLibrary(bytes, PictureKind::kBitmap);
-  const std::size_t count = static_cast<std::size_t>(file.width) * file.height;
-  return {{{file.width, file.height}, {file.pixels.get(), file.pixels.get() + count}}, {}};
+DecodedPicture DecodeBitmap(std::string_view bytes, PictureLimit limit) {
+  const BitmapFile file = ReadBitmapFile(bytes);
+  if (!file.problem.empty()) return DecodeWithLibrary(bytes, PictureKind::kBitmap, limit);
+  PictureShrinker shrinker({file.width, file.height}, limit);
+  const auto width = static_cast<std::size_t>(file.width);
+  for (std::size_t y = 0; y < static_cast<std::size_t>(file.height); ++y) {
+    shrinker.AddRow({file.pixels.get() + y * width, width});
+  }
+  return {shrinker.Take(), {}};
 }
 
 }  // namespace
 
-DecodedPicture DecodePicture(std::string_view bytes) {
+DecodedPicture DecodePicture(std::string_view bytes, PictureLimit limit) {
   const PictureHeader header = ReadPictureHeader(bytes);
   if (header.kind == PictureKind::kUnknown) return {{}, kOtherKind};
   if (header.width * header.height > kMostPicturePoints) return {{}, TooLarge(header)};
   if (!header.whole) return {{}, kDamaged};
-  if (header.kind == PictureKind::kBitmap) return DecodeBitmap(bytes);
-  return DecodeWithLibrary(bytes, header.kind);
+  if (header.kind == PictureKind::kBitmap) return DecodeBitmap(bytes, limit);
+  return DecodeWithLibrary(bytes, header.kind, limit);
 }
 
 }  // namespace quendle

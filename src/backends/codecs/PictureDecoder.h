@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/Picture.h"
+#include "platform/PictureLoader.h"
 
 namespace quendle {
 
@@ -20,7 +21,8 @@ struct DecodedPicture {
 
 // Decodes a JPEG, GIF (its first picture) or bitmap file by what the bytes are. A camera's note of
 // how it was held is followed; transparent points stand on white. A cut or damaged file, one of
-// another kind, and one of more than kMostPicturePoints points give a problem.
-DecodedPicture DecodePicture(std::string_view bytes);
+// another kind, and one of more than kMostPicturePoints points give a problem. One beyond the limit
+// is shrunk row by row as it is decoded.
+DecodedPicture DecodePicture(std::string_view bytes, PictureLimit limit = {});
 
 }  // namespace quendle

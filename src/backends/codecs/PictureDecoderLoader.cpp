@@ -30,14 +30,15 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& path) {
 
 }  // namespace
 
-LoadedPicture PictureDecoderLoader::LoadPicture(const std::string& native_path) {
+LoadedPicture PictureDecoderLoader::LoadPicture(const std::string& native_path,
+                                                PictureLimit limit) {
   const std::optional<std::string> bytes = ReadWholeFile(native_path);
   if (!bytes) return {nullptr, "This file can't be opened. Please choose another one."};
   if (bytes->size() > kLargestFile) {
     return {nullptr, "This file is too large for a photograph. Please choose another one."};
   }
   try {
-    DecodedPicture decoded = DecodePicture(*bytes);
+    DecodedPicture decoded = DecodePicture(*bytes, limit);
     if (!decoded.problem.empty()) return {nullptr, decoded.problem};
     return {std::make_shared<const Picture>(std::move(decoded.picture)), {}};
   } catch (const std::bad_alloc&) {

@@ -8,7 +8,7 @@ namespace quendle {
 // whole regular files of at most 200 MB are read.
 class PictureDecoderLoader : public PictureLoader {
  public:
-  LoadedPicture LoadPicture(const std::string& native_path) override;
+  LoadedPicture LoadPicture(const std::string& native_path, PictureLimit limit) override;
 };
 
 }  // namespace quendle

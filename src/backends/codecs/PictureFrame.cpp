@@ -9,6 +9,9 @@ extern "C" {
 #include <array>
 #include <cstring>
 #include <utility>
+#include <vector>
+
+#include "backends/codecs/PictureShrinker.h"
 
 namespace quendle {
 namespace {
@@ -120,19 +123,18 @@ bool IsReadable(const AVPixFmtDescriptor& format) {
 
 }  // namespace
 
-Picture PictureOfFrame(const AVFrame& frame) {
+Picture PictureOfFrame(const AVFrame& frame, PictureLimit limit) {
   const AVPixFmtDescriptor* format = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
   if (format == nullptr || !IsReadable(*format)) return {};
-  Picture picture{{frame.width, frame.height}, {}};
-  picture.words.resize(static_cast<std::size_t>(frame.width) *
-                       static_cast<std::size_t>(frame.height));
+  PictureShrinker shrinker({frame.width, frame.height}, limit);
   FrameReader reader(frame, *format);
-  auto word = picture.words.begin();
+  std::vector<std::uint32_t> row(static_cast<std::size_t>(frame.width));
   for (int y = 0; y < frame.height; ++y) {
     reader.ReadRow(y);
-    for (int x = 0; x < frame.width; ++x) *word++ = reader.Word(x);
+    for (int x = 0; x < frame.width; ++x) row[static_cast<std::size_t>(x)] = reader.Word(x);
+    shrinker.AddRow(row);
   }
-  return picture;
+  return shrinker.Take();
 }
 
 Picture Upright(Picture picture, int orientation) {

@@ -26,6 +26,8 @@ class BoxForm : public FormEvents {
   // Position of the button that was pressed; nothing while the box stands.
   std::optional<int> Answer() const { return answer_; }
   const Plan& Asked() const { return plan_; }
+  // It went because its window was closed.
+  bool Closed() const { return closed_; }
   // What was typed.
   std::string Typed();
 
@@ -33,7 +35,10 @@ class BoxForm : public FormEvents {
   void PointerOver(Control& control) override;
   void Press(Control& control, Point at) override;
   void Key(FormKey key) override;
-  void QueryClose() override { answer_ = plan_.escape; }
+  void QueryClose() override {
+    answer_ = plan_.escape;
+    closed_ = true;
+  }
 
  private:
   void LayOut(TextPainter& text);
@@ -46,6 +51,7 @@ class BoxForm : public FormEvents {
   Form form_;
   int first_button_ = 0;  // position in the record
   std::optional<int> answer_;
+  bool closed_ = false;
 };
 
 }  // namespace quendle

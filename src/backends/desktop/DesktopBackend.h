@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "backends/codecs/PictureDecoderLoader.h"
@@ -19,6 +21,7 @@
 #include "backends/desktop/GameOptions.h"
 #include "backends/desktop/OpenAlFilterGraphs.h"
 #include "backends/desktop/SdlLibrary.h"
+#include "backends/desktop/StepClock.h"
 #include "backends/desktop/TextPainter.h"
 #include "backends/files/DiskFileSystem.h"
 #include "backends/raster/BitmapPictureSaver.h"
@@ -46,6 +49,10 @@ class DesktopBackend {
   Ports& GetPorts() { return ports_; }
   // Settings.BaseDirectory of the game.
   const std::string& BaseDirectory() const { return folders_.content; }
+  // The recorder of user actions is asked for: the interval of its ticks in milliseconds.
+  const std::optional<std::int16_t>& Tester() const { return tester_; }
+  // With which the random generator began.
+  std::uint64_t Seed() const { return seed_; }
   // Without content or a font: tells the player in a box and gives false.
   bool TellWhatIsMissing(const std::string& product);
   // What is said in the game, for captions.
@@ -67,8 +74,12 @@ class DesktopBackend {
   GameFolders folders_;
   bool wants_debug_;
   SdlLibrary library_;
-  DesktopClock clock_;
+  const std::optional<std::int16_t> tester_;
+  DesktopClock real_clock_;
+  StepClock step_clock_{real_clock_};  // in use while the recorder is asked for
+  Clock& clock_;
   DesktopEventLoop loop_;
+  const std::uint64_t seed_;
   SeededRandom random_;
   Faults faults_;  // nothing is planned to fail
   DiskFileSystem files_;
@@ -76,7 +87,7 @@ class DesktopBackend {
   RasterGdi gdi_;
   RasterDirectDraw direct_draw_;
   RasterDisplayModes display_modes_;
-  OpenAlFilterGraphs filter_graphs_{files_, clock_};
+  OpenAlFilterGraphs filter_graphs_;
   FontFinder fonts_;
   TextPainter text_;
   FormPainter painter_;

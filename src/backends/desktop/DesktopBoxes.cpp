@@ -109,7 +109,10 @@ std::string DesktopBoxes::ChooseInOwnForm(const std::string& title,
 
 std::string DesktopBoxes::AskForText(const std::string& title, const std::string& prompt) {
   BoxForm box({title, prompt, {"ok", "cancel"}, 1, true}, text_);
-  return Ask(box) == 0 ? box.Typed() : "";
+  const bool given = Ask(box) == 0;
+  // Who asks until there is an answer must not keep the player in.
+  if (box.Closed() && window_.IsOpen()) window_.CloseByPlayer();
+  return given ? box.Typed() : "";
 }
 
 int DesktopBoxes::Ask(BoxForm& box) {
@@ -135,7 +138,9 @@ bool DesktopBoxes::Stand(FormInput& input, const std::function<bool()>& done,
     loop_.Run(done);
     return true;
   }
-  auto own = std::make_shared<FormWindow>(painter_);
+  // A form that was put on screen in the same event comes first, or it would cover the box.
+  loop_.Settle();
+  auto own = std::make_shared<FormWindow>(painter_, loop_.WindowInUse());
   if (!own->Show(&input)) return false;
   loop_.Add(own);
   DesktopEventLoop::Modal modal(loop_, *own);

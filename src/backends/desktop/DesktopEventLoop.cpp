@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "backends/desktop/StepClock.h"
+
 namespace quendle {
 namespace {
 
@@ -33,13 +35,16 @@ Uint32 WindowOf(const SDL_Event& event) {
   }
 }
 
+bool IsTyped(const SDL_Event& event) {
+  return event.type == SDL_KEYDOWN || event.type == SDL_KEYUP || event.type == SDL_TEXTINPUT;
+}
+
 bool IsInput(const SDL_Event& event) {
   if (event.type == SDL_WINDOWEVENT) {
     return event.window.event == SDL_WINDOWEVENT_CLOSE ||
            event.window.event == SDL_WINDOWEVENT_LEAVE;
   }
-  return event.type == SDL_KEYDOWN || event.type == SDL_KEYUP || event.type == SDL_TEXTINPUT ||
-         event.type == SDL_MOUSEMOTION || event.type == SDL_MOUSEBUTTONDOWN ||
+  return IsTyped(event) || event.type == SDL_MOUSEMOTION || event.type == SDL_MOUSEBUTTONDOWN ||
          event.type == SDL_MOUSEBUTTONUP || event.type == SDL_MOUSEWHEEL ||
          event.type == SDL_DROPFILE;
 }
@@ -73,12 +78,14 @@ bool IsOvertaken(const SDL_Event& event) {
 
 }  // namespace
 
+DesktopEventLoop::DesktopEventLoop(StepClock& clock)
+    : clock_(clock), steps_(&clock), timers_(clock) {}
+
 void DesktopEventLoop::Run(const std::function<bool()>& done) {
-  std::string fired;
   while (!done()) {
     if (HandleWaiting(done)) return;
-    if (timers_.FireNext(clock_.Monotonic(), fired)) continue;
-    SettleAll();
+    if (FireDue()) continue;
+    Settle();
     SDL_WaitEventTimeout(nullptr, SleepMilliseconds());
   }
 }
@@ -104,7 +111,8 @@ void DesktopEventLoop::Dispatch(const SDL_Event& event) {
     }
     return;
   }
-  Uint32 window = WindowOf(event);
+  // A press behind a box may have given the keyboard to the window there.
+  Uint32 window = IsTyped(event) && !modal_.empty() ? modal_.back()->WindowId() : WindowOf(event);
   for (const auto& target : targets) {
     if (window != 0 && target->WindowId() != window) continue;
     if (IsUpkeep(event)) target->HandleUpkeep(event);
@@ -112,14 +120,50 @@ void DesktopEventLoop::Dispatch(const SDL_Event& event) {
   }
 }
 
-void DesktopEventLoop::SettleAll() {
+bool DesktopEventLoop::FireDue() {
+  std::string fired;
+  return steps_ != nullptr ? FireDueExactly() : timers_.FireNext(clock_.Monotonic(), fired);
+}
+
+bool DesktopEventLoop::FireDueExactly() {
+  const Milliseconds now = steps_->Reachable();
+  Milliseconds due{0};
+  if (!timers_.NextDue(due) || due > now) {
+    steps_->AdvanceTo(now);
+    return false;
+  }
+  steps_->AdvanceTo(due);
+  // All that are due together: no input comes between them.
+  for (std::string fired; timers_.FireNext(steps_->Monotonic(), fired);) {
+  }
+  return true;
+}
+
+void DesktopEventLoop::Settle() {
   for (const auto& target : Targets()) target->Settle();
+  AllowDrops();
+}
+
+// The library has one switch for all windows, and turning it costs a round of the window system.
+void DesktopEventLoop::AllowDrops() {
+  const bool wanted = std::ranges::any_of(Targets(), [this](const auto& target) {
+    return TakesInput(*target) && target->TakesDrops();
+  });
+  if (wanted == (SDL_EventState(SDL_DROPFILE, SDL_QUERY) == SDL_ENABLE)) return;
+  SDL_EventState(SDL_DROPFILE, wanted ? SDL_ENABLE : SDL_DISABLE);
+}
+
+std::uint32_t DesktopEventLoop::WindowInUse() {
+  for (const auto& target : Targets()) {
+    if (TakesInput(*target) && target->WindowId() != 0) return target->WindowId();
+  }
+  return 0;
 }
 
 int DesktopEventLoop::SleepMilliseconds() {
   Milliseconds due{0};
   if (!timers_.NextDue(due)) return kLongestSleep;
-  auto wait = (due - clock_.Monotonic()).count();
+  auto wait = (due - (steps_ != nullptr ? steps_->Reachable() : clock_.Monotonic())).count();
   return static_cast<int>(std::clamp<decltype(wait)>(wait, 0, kLongestSleep));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -10,6 +11,8 @@
 
 namespace quendle {
 
+class StepClock;
+
 // The program's one loop, on one thread: input first, then one due tick, then sleep until either
 // comes. It runs nested while a box stands. Engine code runs only from here, never inside a
 // callback of a library, so its exceptions leave through Run.
@@ -17,6 +20,8 @@ class DesktopEventLoop {
  public:
   // `clock` outlives the loop.
   explicit DesktopEventLoop(Clock& clock) : clock_(clock), timers_(clock) {}
+  // On a clock that moves only from here: ticks come exactly when they are due.
+  explicit DesktopEventLoop(StepClock& clock);
 
   TimerService& Timers() { return timers_; }
 
@@ -25,6 +30,12 @@ class DesktopEventLoop {
 
   // Runs until `done` holds; it is asked after every event and tick.
   void Run(const std::function<bool()>& done);
+
+  // Brings all that is seen up to date now, and not at the end of the event.
+  void Settle();
+  // Number of the window that takes input: the last one that stands alone, else the first there
+  // is; 0 without any.
+  std::uint32_t WindowInUse();
 
   // While it lives, input reaches one target alone.
   class Modal {
@@ -43,12 +54,16 @@ class DesktopEventLoop {
  private:
   bool HandleWaiting(const std::function<bool()>& done);
   void Dispatch(const SDL_Event& event);
-  void SettleAll();
+  // Fires what is due next; false when nothing is.
+  bool FireDue();
+  bool FireDueExactly();
   int SleepMilliseconds();
   std::vector<std::shared_ptr<SdlEventTarget>> Targets();
+  void AllowDrops();
   bool TakesInput(const SdlEventTarget& target) const;
 
   Clock& clock_;
+  StepClock* steps_ = nullptr;  // clock_, when it is one that moves only from here
   TimerQueue timers_;
   std::vector<std::weak_ptr<SdlEventTarget>> targets_;
   std::vector<SdlEventTarget*> modal_;

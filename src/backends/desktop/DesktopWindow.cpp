@@ -81,7 +81,7 @@ void DesktopWindow::Open() {
   SetIcon(window_.get());
   renderer_ = std::make_unique<FrameRenderer>(window_.get());
   layers_lost_ = true;
-  renderer_->Upload(screen_.Frame());
+  Upload();
   Draw();
   SDL_RaiseWindow(window_.get());
 }
@@ -94,6 +94,10 @@ void DesktopWindow::Close() {
   if (SDL_WasInit(SDL_INIT_VIDEO) != 0) SDL_ShowCursor(SDL_ENABLE);
 }
 
+void DesktopWindow::CloseByPlayer() {
+  if (events_ != nullptr) events_->Unload();
+}
+
 void DesktopWindow::SetCaption(const std::string& caption) {
   caption_ = caption;
   if (window_ != nullptr) SDL_SetWindowTitle(window_.get(), ToUtf8(caption).c_str());
@@ -104,6 +108,7 @@ std::optional<WindowProc> DesktopWindow::ReplaceWindowProc(WindowProc proc) {
 }
 
 void DesktopWindow::SendMessageA(unsigned message, std::intptr_t w, std::intptr_t l) {
+  if (message == kActivateAppMessage) active_ = w != 0;
   // From a copy: the procedure may put the one before it back.
   WindowProc proc = proc_;
   if (proc) proc(kHandle, message, w, l);
@@ -135,15 +140,23 @@ void DesktopWindow::SetOverlay(FormInput* input) {
   FollowPointer({-1, -1});
 }
 
-// A frame is shown at once, in the middle of the tick that composed it.
+// A frame is shown at once, in the middle of the tick that composed it; one with the same pixels
+// as the last costs nothing.
 void DesktopWindow::OnPresented() {
-  frame_is_new_ = true;
-  if (renderer_ != nullptr) Draw();
+  if (screen_.Bitmap()->Version() != uploaded_version_) frame_is_new_ = true;
+  if (renderer_ == nullptr) return;
+  const bool layers_are_new = UpdateLayers();
+  if (frame_is_new_ || layers_are_new) Draw();
+}
+
+void DesktopWindow::Upload() {
+  renderer_->Upload(screen_.Frame());
+  uploaded_version_ = screen_.Bitmap()->Version();
+  frame_is_new_ = false;
 }
 
 void DesktopWindow::Draw() {
-  if (frame_is_new_) renderer_->Upload(screen_.Frame());
-  frame_is_new_ = false;
+  if (frame_is_new_) Upload();
   if (overlay_dirty_) {
     overlay_dirty_ = false;
     if (overlay_ == nullptr) {
@@ -158,16 +171,20 @@ void DesktopWindow::Draw() {
   renderer_->Draw(options_.scale);
 }
 
-void DesktopWindow::UpdateLayers() {
-  if (layers_.empty()) return;
+// True when a layer looks other than before.
+bool DesktopWindow::UpdateLayers() {
+  if (layers_.empty()) return false;
+  bool changed = false;
   const Size output = renderer_->OutputSize();
   const LayerView view{output, FrameArea(output, options_.scale), pointer_};
   for (std::size_t slot = 0; slot < layers_.size(); ++slot) {
     if (const LayerContents* contents = layers_[slot]->Update(view, layers_lost_)) {
       renderer_->SetLayer(slot, *contents);
+      changed = true;
     }
   }
   layers_lost_ = false;
+  return changed;
 }
 
 // True when the event was for a layer and not for the game.
@@ -205,6 +222,7 @@ void DesktopWindow::SendToGame(const SDL_Event& event) {
     Point at = FramePosition(event.motion.x, event.motion.y);
     events_->MouseMove(ButtonBits(event.motion.state), ShiftBits(), at.x, at.y);
   } else if (event.type == SDL_MOUSEBUTTONDOWN) {
+    Activate(true);  // the game may have paused itself while its window kept the focus
     Point at = FramePosition(event.button.x, event.button.y);
     int button = ButtonNumber(event.button.button);
     if (button != 0) events_->MouseDown(button, ShiftBits(), at.x, at.y);
@@ -263,7 +281,6 @@ void DesktopWindow::ToggleFullScreen() {
 
 void DesktopWindow::Activate(bool active) {
   if (active == active_) return;
-  active_ = active;
   SendMessageA(kActivateAppMessage, active ? 1 : 0, 0);
 }
 

@@ -56,6 +56,8 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   void Beep() override;
   Point ClientToScreen() override { return {0, 0}; }
   void Close() override;
+  // The player wants the game to end; what that throws passes through.
+  void CloseByPlayer();
 
   std::uint32_t WindowId() const override;
   void HandleInput(const SDL_Event& event) override;
@@ -71,8 +73,9 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
 
   void Open();
   void OnPresented();
+  void Upload();
   void Draw();
-  void UpdateLayers();
+  bool UpdateLayers();
   bool SendToLayers(const SDL_Event& event);
   void ToggleFullScreen();
   void SendToGame(const SDL_Event& event);
@@ -100,6 +103,7 @@ class DesktopWindow : public GameWindow, public SdlEventTarget {
   bool overlay_dirty_ = false;
   bool stale_ = false;
   bool frame_is_new_ = false;
+  std::uint64_t uploaded_version_ = 0;  // of the frame's pixels
   bool active_ = true;  // the game takes itself for active until it is told otherwise
   bool pointer_wanted_ = true;
   bool pointer_on_frame_ = true;

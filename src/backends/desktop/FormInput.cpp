@@ -98,7 +98,7 @@ void FormInput::Erase() {
 void FormInput::Drop(const std::string& native_path) {
   if (TextField() != nullptr) {
     Type(native_path);
-  } else {
+  } else if (events_.TakesDrops()) {
     events_.Drop(native_path);
   }
 }

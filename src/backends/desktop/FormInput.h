@@ -29,6 +29,7 @@ class FormInput {
   // Typed text (UTF-8) goes to the text field, if the form has one.
   void Type(std::string_view text);
   void Erase();
+  bool TakesDrops() { return TextField() != nullptr || events_.TakesDrops(); }
   // A dropped file (UTF-8 path): to the text field, else to the form.
   void Drop(const std::string& native_path);
   void Close() { events_.QueryClose(); }

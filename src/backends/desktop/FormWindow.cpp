@@ -126,6 +126,9 @@ bool FormWindow::Open() {
     if (window_ == nullptr) return false;
     SDL_SetWindowHitTest(window_.get(), HitTest, this);
     SetIcon(window_.get());
+    if (SDL_Window* behind = SDL_GetWindowFromID(behind_)) {
+      SDL_SetWindowModalFor(window_.get(), behind);
+    }
   }
   SDL_SetWindowTitle(window_.get(), ToUtf8(form.caption).c_str());
   return true;

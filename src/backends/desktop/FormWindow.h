@@ -16,8 +16,10 @@ namespace quendle {
 // keeps its place while the player has moved it.
 class FormWindow : public SdlEventTarget {
  public:
-  // `painter` outlives the window.
-  explicit FormWindow(FormPainter& painter) : painter_(painter) {}
+  // `painter` outlives the window. It stays in front of the window with the number `behind`, if
+  // there is one.
+  explicit FormWindow(FormPainter& painter, std::uint32_t behind = 0)
+      : painter_(painter), behind_(behind) {}
   ~FormWindow() override;
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
@@ -35,6 +37,7 @@ class FormWindow : public SdlEventTarget {
   void HandleUpkeep(const SDL_Event& event) override;
   void Settle() override;
   void HandleQuit() override;
+  bool TakesDrops() const override { return input_ != nullptr && input_->TakesDrops(); }
 
  private:
   struct DestroyWindow {
@@ -46,6 +49,7 @@ class FormWindow : public SdlEventTarget {
   FormPlace Place() const;
 
   FormPainter& painter_;
+  std::uint32_t behind_;
   std::unique_ptr<SDL_Window, DestroyWindow> window_;
   FormInput* input_ = nullptr;
   double scale_ = 1;

@@ -24,6 +24,15 @@ GameOptions GameOptions::Parse(const std::string& program, int argc, const char*
   const CLI::Option* captions_word =
       app.add_flag("--captions,!--no-captions", captions,
                    "Show what is said as text, or don't; F2 switches it in the game and keeps it");
+  constexpr const char* kTesterInterval = "50";
+  std::int16_t interval = 0;
+  CLI::Option* tester =
+      app.add_option("--tester", interval,
+                     "Record or play user actions, with a tick every MS milliseconds (50)")
+          ->expected(0, 1)
+          ->default_str(kTesterInterval)
+          ->check(CLI::Range(1, 32767))
+          ->option_text("[MS]");
   app.add_flag("--debug", options.debug,
                "For authors: play in a window, with the event log in a second one; F12 shows what "
                "lies under the pointer");
@@ -35,6 +44,7 @@ GameOptions GameOptions::Parse(const std::string& program, int argc, const char*
     exit_code = app.exit(error) == 0 ? 0 : 2;
   }
   if (captions_word->count() > 0) options.captions = captions;
+  if (tester->count() > 0) options.tester = interval;
   options.window.full_screen = !in_window && !options.debug;
   options.window.scale = modes.at(scale);
   return options;

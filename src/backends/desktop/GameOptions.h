@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -15,6 +16,7 @@ struct GameOptions {
   std::optional<bool> captions;  // show captions in this run; nothing: as last chosen in the game
   bool debug = false;            // the event log in a window of its own, and F12 for authors
   bool version = false;
+  std::optional<std::int16_t> tester;  // interval of the recorder in milliseconds; none: it is off
 
   // Reads the command line of `program`. Where that ends the program (help, a usage error) the
   // text was printed and `exit_code` is set: 0, or 2 for an error.

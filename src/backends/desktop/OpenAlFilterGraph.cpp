@@ -61,6 +61,10 @@ void OpenAlFilterGraph::Sound() {
 void OpenAlFilterGraph::Follow() {
   if (!voice_ || !voice_->HasSource()) return;
   const bool sounding = voice_->Sounding();
+  if (graphs_.ByClockAlone()) {
+    if (!sounding || transport_->Completed()) voice_->Silence();
+    return;
+  }
   const double heard = sounding ? voice_->Position() : transport_->Duration();
   if (transport_->Running() ? StandsStill(heard) : !sounding) {
     voice_->Silence();

@@ -29,7 +29,12 @@ class OpenAlFilterGraphs : public FilterGraphs {
   std::unique_ptr<FilterGraph> Create() override;
   std::vector<std::string> TakeProblems() override { return library_.TakeProblems(); }
 
+  // From now on positions are those of the clock and not of what is heard, so that a sound ends at
+  // the same moment every time.
+  void GoByClockAlone() { by_clock_alone_ = true; }
+
   // For the graphs.
+  bool ByClockAlone() const { return by_clock_alone_; }
   SoundLibrary& Library() { return library_; }
   Clock& GetClock() { return clock_; }
   // Null without one.
@@ -45,6 +50,7 @@ class OpenAlFilterGraphs : public FilterGraphs {
   std::shared_ptr<OpenAlDevice> device_;
   bool opened_ = false;
   bool lost_ = false;
+  bool by_clock_alone_ = false;
 };
 
 }  // namespace quendle

@@ -16,6 +16,8 @@ constexpr int kTiles = kColumns * kRows;
 constexpr Size kForm{716, 590};
 constexpr Size kTile{164, 138};
 constexpr Size kThumbnail{148, 102};
+// More than a tile needs: the rest is smoothed when it is stretched.
+constexpr PictureLimit kThumbnailLimit{600, 600};
 constexpr Point kSheet{20, 84};
 constexpr int kNamePoints = 9;
 constexpr int kFolderPoints = 12;
@@ -94,7 +96,7 @@ bool PictureChooser::ReadNextPicture() {
   for (std::size_t i = first; i < std::min(first + kTiles, entries_.size()); ++i) {
     const std::string path = entries_[i].path.string();
     if (entries_[i].folder || pictures_.contains(path)) continue;
-    const LoadedPicture loaded = loader_.LoadPicture(path);
+    const LoadedPicture loaded = loader_.LoadPicture(path, kThumbnailLimit);
     SharedPicture& small = pictures_[path];
     if (loaded.picture != nullptr) {
       small = std::make_shared<const Picture>(

@@ -32,6 +32,7 @@ class PictureChooser : public FormEvents {
   void PointerOver(Control& control) override;
   void Press(Control& control, Point at) override;
   void Set(Control& control, int value) override;
+  bool TakesDrops() const override { return true; }
   void Drop(const std::string& native_path) override { answer_ = native_path; }
   void Key(FormKey key) override;
   void QueryClose() override { answer_ = ""; }

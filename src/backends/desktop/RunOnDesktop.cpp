@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "backends/desktop/DesktopBackend.h"
+#include "backends/desktop/FreedMemory.h"
 #include "backends/desktop/VersionText.h"
 #include "base/FatalError.h"
 #include "base/ProcessEnds.h"
@@ -30,6 +31,7 @@ int Play(DesktopBackend& backend, const ProgramInfo& info,
 
 int RunOnDesktop(const ProgramInfo& info, int argc, const char* const* argv,
                  const std::function<int(DesktopBackend&)>& play) {
+  GiveFreedMemoryBack();
   std::optional<int> exit_code;
   GameOptions options = GameOptions::Parse(info.program, argc, argv, exit_code);
   if (exit_code) return *exit_code;

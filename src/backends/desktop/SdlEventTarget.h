@@ -18,6 +18,8 @@ class SdlEventTarget {
   virtual void HandleInput(const SDL_Event& event) = 0;
   // What a window needs at any time: exposure, size, focus, lost pictures.
   virtual void HandleUpkeep(const SDL_Event& event) = 0;
+  // True while a file may be dropped on the window.
+  virtual bool TakesDrops() const { return false; }
   // Between events: brings what is seen up to date.
   virtual void Settle() = 0;
   // The system asks the program to end, by a signal for instance.

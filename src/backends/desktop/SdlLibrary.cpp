@@ -33,6 +33,9 @@ SdlLibrary::SdlLibrary() {
   } else if (!IsSeen(SDL_GetCurrentVideoDriver())) {
     problem_ = "neither X11 nor Wayland answers";
   }
+  // Files may be dropped where a form asks for one, text nowhere.
+  SDL_EventState(SDL_DROPTEXT, SDL_DISABLE);
+  SDL_EventState(SDL_DROPFILE, SDL_DISABLE);
 }
 
 SdlLibrary::~SdlLibrary() { SDL_Quit(); }

@@ -99,6 +99,7 @@ bool HeadlessFormHost::Key(FormKey key) {
 bool HeadlessFormHost::Drop(const std::string& native_path) {
   const Entry* entry = Reach();
   if (entry == nullptr) return false;
+  if (!entry->events->TakesDrops()) return false;
   entry->events->Drop(native_path);
   return true;
 }

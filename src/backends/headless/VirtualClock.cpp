@@ -6,16 +6,22 @@
 namespace quendle {
 namespace {
 
-double Seconds(Milliseconds time) { return static_cast<double>(time.count()) / 1000.0; }
+constexpr double kMillisecondsOfDay = VirtualClock::kSecondsOfDay * 1000;
+
+double Count(Milliseconds time) { return static_cast<double>(time.count()); }
 
 }  // namespace
 
+// Reckoned in milliseconds, where sums are exact: the same time of day is the same number, however
+// long the clock has run.
 double VirtualClock::TimeOfDay() {
-  const double seconds = std::fmod(midnight_ + Seconds(now_), kSecondsOfDay);
-  return seconds < 0 ? seconds + kSecondsOfDay : seconds;
+  const double time = std::fmod(midnight_ + Count(now_), kMillisecondsOfDay);
+  return (time < 0 ? time + kMillisecondsOfDay : time) / 1000;
 }
 
-void VirtualClock::SetTimeOfDay(double seconds) { midnight_ = seconds - Seconds(now_); }
+void VirtualClock::SetTimeOfDay(double seconds) {
+  midnight_ = std::round(seconds * 1e6) / 1e3 - Count(now_);
+}
 
 void VirtualClock::AdvanceTo(Milliseconds moment) { now_ = std::max(now_, moment); }
 

@@ -19,7 +19,7 @@ class VirtualClock : public Clock {
 
  private:
   Milliseconds now_{0};
-  double midnight_ = 0;  // time of day at moment 0, in seconds
+  double midnight_ = 0;  // time of day at moment 0, in milliseconds
 };
 
 }  // namespace quendle

@@ -14,6 +14,8 @@ class OpaqueSpans {
   // `area` lies inside the picture and is at most 65535 wide and high; `pitch` is in pixels.
   OpaqueSpans(const std::uint32_t* pixels, int pitch, const Rect& area, std::uint32_t key);
 
+  // True when no pixel of the rectangle has the key.
+  bool Whole() const { return whole_; }
   // Copies the runs. `source` and `target` are the pixels at the rectangle's top left corner.
   void Copy(const std::uint32_t* source, int source_pitch, std::uint32_t* target,
             int target_pitch) const;

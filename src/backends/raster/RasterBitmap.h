@@ -36,12 +36,15 @@ class RasterBitmap {
 
   const std::uint32_t* Pixels() const { return pixels_.get(); }
   const std::uint32_t* At(int x, int y) const { return pixels_.get() + Offset(x, y); }
-  // The pixels for writing; what was known of their spans is forgotten.
+  // The pixels for writing; what was known of their spans is forgotten, and the version changes.
   std::uint32_t* WritableAt(int x, int y) {
     if (!spans_.empty()) spans_.clear();
+    ++version_;
     return pixels_.get() + Offset(x, y);
   }
   void Clear();
+  // Two equal versions of one bitmap have the same pixels.
+  std::uint64_t Version() const { return version_; }
 
   // The spans of a rectangle inside the bitmap without the colour `key` (a word of the bitmap).
   // Valid until the next call that writes or asks for spans.
@@ -54,6 +57,7 @@ class RasterBitmap {
   const int height_;
   const PixelFormat format_;
   PixelBuffer pixels_;
+  std::uint64_t version_ = 0;
   std::uint32_t spans_key_ = 0;
   std::unordered_map<std::uint64_t, OpaqueSpans> spans_;  // by rectangle
 };

@@ -33,7 +33,8 @@ DrawStatus RasterDirectDraw::SetCooperativeLevel(int, std::uint32_t flags) {
 
 SurfaceRef RasterDirectDraw::CreatePrimarySurface() {
   if (faults_.Fails("CreatePrimarySurface") || !created_) return nullptr;
-  auto surface = std::make_shared<RasterSurface>(gdi_, faults_, screen_.Bitmap(), depth_, &screen_);
+  auto surface =
+      std::make_shared<RasterSurface>(gdi_, faults_, wait_, screen_.Bitmap(), depth_, &screen_);
   if (cooperative_flags_ == kCooperativeNormal) surface->UseDesktopCoordinates();
   return Keep(std::move(surface));
 }
@@ -43,7 +44,8 @@ SurfaceRef RasterDirectDraw::CreateSurface(int width, int height) {
   if (!RasterBitmap::SizeIsLawful(width, height)) return nullptr;
   auto bitmap = std::make_shared<RasterBitmap>(
       width, height, depth_ == 16 ? PixelFormat::kColor565 : PixelFormat::kColor32);
-  return Keep(std::make_shared<RasterSurface>(gdi_, faults_, std::move(bitmap), depth_, nullptr));
+  return Keep(
+      std::make_shared<RasterSurface>(gdi_, faults_, wait_, std::move(bitmap), depth_, nullptr));
 }
 
 DrawStatus RasterDirectDraw::RestoreDisplayMode() {

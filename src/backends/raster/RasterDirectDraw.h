@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "backends/raster/RasterSurface.h"
 #include "platform/DirectDraw.h"
 #include "platform/Faults.h"
 
@@ -10,11 +11,10 @@ namespace quendle {
 
 class RasterGdi;
 class RasterScreen;
-class RasterSurface;
 
 // The display device in our own memory, at depth 32 or 16 (5-6-5). Operations that can be planned
 // to fail: Create, SetDisplayMode, SetCooperativeLevel, CreatePrimarySurface, CreateSurface, and
-// those of the surfaces.
+// those of the surfaces. It must outlive its surfaces.
 class RasterDirectDraw : public DirectDraw {
  public:
   // All must outlive this object and its surfaces.
@@ -49,6 +49,7 @@ class RasterDirectDraw : public DirectDraw {
   bool mode_is_set_ = false;
   int depth_ = 32;
   std::uint32_t cooperative_flags_ = 0;
+  BlitWait wait_;
   std::vector<std::weak_ptr<RasterSurface>> surfaces_;
 };
 

@@ -9,6 +9,7 @@
 namespace quendle {
 namespace {
 
+constexpr std::size_t kMostWaiting = 4096;  // where copies come and nobody ever looks
 constexpr std::uint32_t kKeySource = kBltWaitKeySource & ~kBltWait;
 
 bool Contains(const RasterBitmap& bitmap, const Rect& area) {
@@ -22,11 +23,17 @@ Rect Moved(const Rect& area, Point origin) {
 
 }  // namespace
 
-RasterSurface::RasterSurface(RasterGdi& gdi, Faults& faults, std::shared_ptr<RasterBitmap> bitmap,
-                             int depth, RasterScreen* screen)
-    : gdi_(gdi), faults_(faults), bitmap_(std::move(bitmap)), depth_(depth), screen_(screen) {}
+RasterSurface::RasterSurface(RasterGdi& gdi, Faults& faults, BlitWait& wait,
+                             std::shared_ptr<RasterBitmap> bitmap, int depth, RasterScreen* screen)
+    : gdi_(gdi),
+      faults_(faults),
+      wait_(wait),
+      bitmap_(std::move(bitmap)),
+      depth_(depth),
+      screen_(screen) {}
 
 RasterSurface::~RasterSurface() {
+  if (wait_.surface == this) wait_.surface = nullptr;
   if (context_ != 0) gdi_.DeleteDC(context_);
 }
 
@@ -64,23 +71,75 @@ DrawStatus RasterSurface::Copy(const Rect& to, RasterSurface& source, const Rect
   const bool fits = Contains(*bitmap_, to) && Contains(*source.bitmap_, from) &&
                     to.Width() == from.Width() && to.Height() == from.Height();
   if (!fits || context_ != 0 || source.context_ != 0) return DrawStatus::kFailed;
-  if ((flags & kKeySource) == 0) {
-    CopyBlock(*bitmap_, *source.bitmap_,
-              {{to.left, to.top}, {from.left, from.top}, {to.Width(), to.Height()}},
-              RasterOp::kCopy, {});
-    return DrawStatus::kOk;
+  const bool keyed = (flags & kKeySource) != 0;
+  if (keyed && (!source.key_ || &source == this)) return DrawStatus::kFailed;
+  if (screen_ != nullptr || &source == this) {
+    EndWait();
+    if (!keyed) {
+      CopyPlain(to, source, from);
+      return DrawStatus::kOk;
+    }
+  } else if (wait_.surface != this) {
+    EndWait();
+    wait_.surface = this;
   }
-  if (!source.key_ || &source == this) return DrawStatus::kFailed;
-  source.bitmap_->Spans(from, *source.key_)
-      .Copy(source.bitmap_->At(from.left, from.top), source.bitmap_->Width(),
-            bitmap_->WritableAt(to.left, to.top), bitmap_->Width());
+  if (queue_.Size() >= kMostWaiting) DrawWaiting();
+  queue_.Add(
+      {source.bitmap_, source.bitmap_->Version(), from, to, keyed ? source.key_ : std::nullopt});
+  if (screen_ != nullptr) DrawWaiting();
   return DrawStatus::kOk;
+}
+
+// Copies the rectangle, or only what has changed in it when the rest stands here already.
+void RasterSurface::CopyPlain(const Rect& to, RasterSurface& source, const Rect& from) {
+  const auto copy = [&](const Rect& part) {
+    CopyBlock(*bitmap_, *source.bitmap_,
+              {{to.left + part.left - from.left, to.top + part.top - from.top},
+               {part.left, part.top},
+               {part.Width(), part.Height()}},
+              RasterOp::kCopy, {});
+  };
+  if (!ShowsAll(source, to, from)) {
+    copy(from);
+  } else if (shown_.source_version != source.bitmap_->Version()) {
+    for (const Rect& change : source.changes_) copy(change);
+  }
+  shown_ = {source.bitmap_, source.bitmap_->Version(), bitmap_->Version(), to, from};
+}
+
+// True when this surface shows the whole source as it is, or as it was before its last changes.
+bool RasterSurface::ShowsAll(const RasterSurface& source, const Rect& to, const Rect& from) const {
+  const bool same = shown_.source.lock() == source.bitmap_ && shown_.to == to &&
+                    shown_.from == from && from == source.bitmap_->Bounds() &&
+                    shown_.own_version == bitmap_->Version();
+  const std::uint64_t now = source.bitmap_->Version();
+  return same &&
+         (shown_.source_version == now ||
+          (shown_.source_version == source.version_before_ && source.version_after_ == now));
+}
+
+void RasterSurface::ForgetDrawn() {
+  DrawWaiting();
+  queue_.Forget();
+}
+
+void RasterSurface::EndWait() {
+  if (wait_.surface != nullptr) wait_.surface->DrawWaiting();
+}
+
+void RasterSurface::DrawWaiting() {
+  if (wait_.surface == this) wait_.surface = nullptr;
+  if (queue_.Empty()) return;
+  version_before_ = bitmap_->Version();
+  changes_ = queue_.Flush(*bitmap_);
+  version_after_ = bitmap_->Version();
 }
 
 ContextHandle RasterSurface::GetDC() {
   const Faults::Kind fault = faults_.Next("GetDC");
   if (fault == Faults::Kind::kLost) lost_ = true;
   if (fault != Faults::Kind::kNone || lost_ || context_ != 0) return 0;
+  EndWait();
   context_ = gdi_.CreateContextOn(bitmap_);
   return context_;
 }
@@ -98,7 +157,10 @@ DrawStatus RasterSurface::Restore() {
   if (fault != Faults::Kind::kNone) {
     return lost_ ? DrawStatus::kSurfaceLost : DrawStatus::kFailed;
   }
-  if (lost_) bitmap_->Clear();
+  if (lost_) {
+    EndWait();
+    bitmap_->Clear();
+  }
   lost_ = false;
   return DrawStatus::kOk;
 }

@@ -147,6 +147,64 @@ TEST(PictureDecoder, BrokenBytesGiveAPictureOrAProblemAndNothingWorse) {
   }
 }
 
+TEST(PictureDecoder, APictureBeyondTheLimitIsMadeSmallerByAWholeNumber) {
+  std::vector<std::uint32_t> words;
+  for (std::uint32_t i = 0; i < 11 * 7; ++i) words.push_back(i << 16 | i * 2 << 8 | (255 - i));
+  const std::string bitmap = WriteBitmapFile(11, 7, words.data());
+  // The side of 11 makes 3 the smallest whole number; a column and a row are left over.
+  const Picture small = DecodePicture(bitmap, {10, 4}).picture;
+  ASSERT_EQ(small.size, (Size{3, 2}));
+  std::uint32_t red = 0, blue = 0;
+  for (std::size_t y = 3; y < 6; ++y) {
+    for (std::size_t x = 6; x < 9; ++x) {
+      red += words[y * 11 + x] >> 16;
+      blue += words[y * 11 + x] & 255;
+    }
+  }
+  const std::uint32_t mean = (red + 4) / 9;
+  EXPECT_EQ(small.At(2, 1), mean << 16 | mean * 2 << 8 | (blue + 4) / 9);
+  EXPECT_EQ(DecodePicture(bitmap, {11, 4}).picture.size, (Size{11, 7})) << "within the limit";
+  EXPECT_EQ(DecodePicture(bitmap, {10, 11}).picture.size, (Size{11, 7})) << "small enough as it is";
+  EXPECT_EQ(DecodePicture(bitmap, {10, 10}).picture.size, (Size{5, 3}));
+}
+
+TEST(PictureDecoder, AStripNarrowerThanABlockKeepsOnePixel) {
+  const std::vector<std::uint32_t> words(3 * 100, 0x102030);
+  const std::string strip = WriteBitmapFile(3, 100, words.data());
+  EXPECT_TRUE(DecodePicture(strip, {50, 10}).picture ==
+              (Picture{{1, 10}, std::vector<std::uint32_t>(10, 0x102030)}));
+}
+
+TEST(PictureDecoder, AJpegIsMadeSmallerAndThenTurned) {
+  const std::string jpeg = TestData("photograph.jpg");
+  const Picture whole = DecodePicture(jpeg).picture;
+  const Picture small = DecodePicture(jpeg, {500, 450}).picture;
+  ASSERT_EQ(small.size, (Size{450, 350}));
+  ExpectNear(small, 230, 165, whole.At(460, 330));
+  EXPECT_TRUE(DecodePicture(Held(jpeg, 6), {500, 450}).picture == Upright(small, 6));
+}
+
+// A grey JPEG as large as asked for: each block takes two bits.
+std::string LargeGreyJpeg(int width, int height) {
+  std::string jpeg = Bytes({0xFF, 0xD8, 0xFF, 0xDB, 0, 67, 0}) + std::string(64, '\1');
+  jpeg += Bytes(
+      {0xFF, 0xC0, 0, 11, 8, height >> 8, height & 255, width >> 8, width & 255, 1, 1, 0x11, 0});
+  // One code each: "no change" of the brightness, "end of block" for the rest.
+  for (int table : {0x00, 0x10}) {
+    jpeg += Bytes({0xFF, 0xC4, 0, 20, table, 1}) + std::string(15, '\0') + Bytes({0});
+  }
+  jpeg += Bytes({0xFF, 0xDA, 0, 8, 1, 1, 0, 0, 63, 0});
+  const int blocks = ((width + 7) / 8) * ((height + 7) / 8);
+  return jpeg + std::string(static_cast<std::size_t>(blocks / 4 + 1), '\0') + Bytes({0xFF, 0xD9});
+}
+
+TEST(PictureDecoder, APhotographJustBelowFiftyMillionPointsIsDecoded) {
+  const DecodedPicture decoded = DecodePicture(LargeGreyJpeg(8600, 5800), {2184, 1200});
+  ASSERT_EQ(decoded.problem, "");
+  EXPECT_EQ(decoded.picture.size, (Size{1075, 725}));
+  EXPECT_EQ(decoded.picture.At(1074, 724), 0x808080u);
+}
+
 TEST(PictureDecoder, MoreThanFiftyMillionPointsAreRefusedBeforeAnythingIsDecoded) {
   const std::string jpeg =
       Bytes({0xFF, 0xD8, 0xFF, 0xC0, 0, 17,   8, 0x27, 0x10, 0x27, 0x10, 3,    1,   0x22,
@@ -164,7 +222,7 @@ TEST(PictureDecoder, MoreThanFiftyMillionPointsAreRefusedBeforeAnythingIsDecoded
 TEST(PictureDecoderLoader, GoesByTheBytesAndNotByTheName) {
   const std::string path = testing::TempDir() + "really-a-jpeg.gif";
   std::ofstream(path, std::ios::binary) << TestData("photograph.jpg");
-  const LoadedPicture loaded = PictureDecoderLoader().LoadPicture(path);
+  const LoadedPicture loaded = PictureDecoderLoader().LoadPicture(path, {});
   ASSERT_NE(loaded.picture, nullptr) << loaded.problem;
   EXPECT_EQ(loaded.picture->size, (Size{900, 700}));
   std::filesystem::remove(path);
@@ -175,7 +233,7 @@ TEST(PictureDecoderLoader, WhatIsNoRegularFileCantBeOpened) {
   mkfifo(pipe.c_str(), 0600);
   for (const std::string& path : {std::string(), std::string("/nowhere/photo.jpg"), pipe,
                                   std::string("/tmp"), std::string("/dev/zero")}) {
-    const LoadedPicture loaded = PictureDecoderLoader().LoadPicture(path);
+    const LoadedPicture loaded = PictureDecoderLoader().LoadPicture(path, {});
     EXPECT_EQ(loaded.picture, nullptr) << path;
     EXPECT_EQ(loaded.problem, "This file can't be opened. Please choose another one.") << path;
   }

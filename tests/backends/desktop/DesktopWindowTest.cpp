@@ -154,6 +154,21 @@ TEST_F(DesktopWindowTest, ChangesOfFocusGoThroughTheCurrentWindowProcedure) {
   EXPECT_EQ(messages.size(), 2u);
 }
 
+// A page that the game opened need not take the focus away.
+TEST_F(DesktopWindowTest, APressWakesAGameThatHasPausedItself) {
+  Log messages;
+  window_->ReplaceWindowProc([&](int, unsigned, std::intptr_t w, std::intptr_t) -> std::intptr_t {
+    messages.push_back(std::to_string(w));
+    return 0;
+  });
+  window_->SendMessageA(kActivateAppMessage, 0, 0);
+  SendWindow(SDL_WINDOWEVENT_FOCUS_LOST);
+  EXPECT_EQ(messages, (Log{"0"})) << "told once";
+  Send(Button(SDL_MOUSEBUTTONDOWN, SDL_BUTTON_LEFT, 12, 34));
+  Send(Button(SDL_MOUSEBUTTONDOWN, SDL_BUTTON_LEFT, 12, 34));
+  EXPECT_EQ(messages, (Log{"0", "1"}));
+}
+
 TEST_F(DesktopWindowTest, ClosingTheWindowUnloads) {
   SendWindow(SDL_WINDOWEVENT_CLOSE);
   EXPECT_EQ(events_.Take(), (Log{"unload"}));

@@ -25,6 +25,7 @@ class Recorder : public FormEvents {
     control.value = value;
     log.push_back("set " + control.name + " " + std::to_string(value));
   }
+  bool TakesDrops() const override { return true; }
   void Drop(const std::string& path) override { log.push_back("drop " + path); }
   void Key(FormKey) override { log.push_back("key"); }
   void QueryClose() override { log.push_back("close"); }

@@ -37,6 +37,13 @@ TEST(GameOptions, WordsAreTaken) {
   EXPECT_TRUE(parsed.options.version);
 }
 
+TEST(GameOptions, TheRecorderTakesAnIntervalOrItsOwn) {
+  EXPECT_FALSE(Parse({}).options.tester);
+  EXPECT_EQ(Parse({"--tester", "20"}).options.tester, 20);
+  EXPECT_EQ(Parse({"--tester"}).options.tester, 50);
+  EXPECT_EQ(Parse({"--tester", "--window"}).options.tester, 50);
+}
+
 TEST(GameOptions, CaptionsAreAsLastChosenUnlessAWordSaysOtherwise) {
   EXPECT_EQ(Parse({}).options.captions, std::nullopt);
   EXPECT_EQ(Parse({"--captions"}).options.captions, true);
@@ -54,6 +61,8 @@ TEST(GameOptions, AnUnknownWordIsAUsageError) {
   EXPECT_EQ(Parse({"--nonsense"}).exit_code, 2);
   EXPECT_EQ(Parse({"--scale", "huge"}).exit_code, 2);
   EXPECT_EQ(Parse({"--content", "/no/such/folder"}).exit_code, 2);
+  EXPECT_EQ(Parse({"--tester", "0"}).exit_code, 2);
+  EXPECT_EQ(Parse({"--tester", "32768"}).exit_code, 2);
   EXPECT_NE(testing::internal::GetCapturedStderr(), "");
 }
 

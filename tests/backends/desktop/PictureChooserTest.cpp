@@ -10,7 +10,7 @@ namespace {
 
 class TinyPictures : public PictureLoader {
  public:
-  LoadedPicture LoadPicture(const std::string& native_path) override {
+  LoadedPicture LoadPicture(const std::string& native_path, PictureLimit) override {
     asked.push_back(std::filesystem::path(native_path).filename().string());
     if (native_path.find("broken") != std::string::npos) return {nullptr, "It is damaged."};
     return {std::make_shared<const Picture>(

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -159,6 +160,67 @@ TEST_F(RasterDirectDrawTest, InAWindowTheVisibleSurfaceTakesDesktopCoordinates) 
   SurfaceRef frame = draw_.CreateSurface(kFrameWidth, kFrameHeight);
   EXPECT_EQ(primary->Blt(kWhole, *frame, kWhole, kBltWait), DrawStatus::kFailed);
   EXPECT_EQ(primary->Blt({100, 50, 900, 650}, *frame, kWhole, kBltWait), DrawStatus::kOk);
+}
+
+TEST_F(RasterDirectDrawTest, ASourceThatChangesLaterWasCopiedAsItWas) {
+  Start(32);
+  SurfaceRef target = Draw({"gg"}), source = Draw({"rr"}), other = Draw({"bb"});
+  ASSERT_EQ(target->Blt({0, 0, 2, 1}, *source, {0, 0, 2, 1}, kBltWait), DrawStatus::kOk);
+  Fill(*source, {"bb"});
+  EXPECT_EQ(Word(*target, 0, 0), WordOfLetter('r'));
+  ASSERT_EQ(target->Blt({0, 0, 1, 1}, *source, {0, 0, 1, 1}, kBltWait), DrawStatus::kOk);
+  ASSERT_EQ(source->Blt({0, 0, 2, 1}, *target, {0, 0, 2, 1}, kBltWait), DrawStatus::kOk);
+  EXPECT_EQ(Word(*target, 0, 0), WordOfLetter('b'));
+  EXPECT_EQ(Word(*source, 1, 0), WordOfLetter('r'));
+  ASSERT_EQ(target->Blt({0, 0, 2, 1}, *other, {0, 0, 2, 1}, kBltWait), DrawStatus::kOk);
+  other.reset();
+  EXPECT_EQ(Word(*target, 1, 0), WordOfLetter('b'));
+}
+
+TEST_F(RasterDirectDrawTest, ASurfaceThatIsCopiedOntoItselfCopiesAllThatWaited) {
+  Start(32);
+  SurfaceRef target = Draw({"gg"}), source = Draw({"rr"});
+  ASSERT_EQ(target->Blt({0, 0, 1, 1}, *source, {0, 0, 1, 1}, kBltWait), DrawStatus::kOk);
+  ASSERT_EQ(target->Blt({1, 0, 2, 1}, *target, {0, 0, 1, 1}, kBltWait), DrawStatus::kOk);
+  EXPECT_EQ(Word(*target, 1, 0), WordOfLetter('r'));
+}
+
+TEST_F(RasterDirectDrawTest, ALostSourceWasCopiedBeforeItsMemoryWent) {
+  Start(32);
+  SurfaceRef target = Draw({"g"}), source = Draw({"r"});
+  ASSERT_EQ(target->Blt({0, 0, 1, 1}, *source, {0, 0, 1, 1}, kBltWait), DrawStatus::kOk);
+  static_cast<RasterSurface&>(*source).Lose();
+  ASSERT_EQ(source->Restore(), DrawStatus::kOk);
+  EXPECT_EQ(Word(*target, 0, 0), WordOfLetter('r'));
+}
+
+// The frame on the screen follows the back surface whether all of it is copied or what changed.
+TEST_F(RasterDirectDrawTest, EachPresentedFrameIsTheWholeBackSurface) {
+  Start(32);
+  SurfaceRef primary = draw_.CreatePrimarySurface();
+  SurfaceRef back = draw_.CreateSurface(kFrameWidth, kFrameHeight);
+  SurfaceRef ground = draw_.CreateSurface(kFrameWidth, kFrameHeight), sprite = Draw({"rb", "br"});
+  const auto compose = [&](Point at) {
+    std::ignore = back->Blt(kWhole, *ground, kWhole, kBltWait);
+    std::ignore = back->Blt({at.x, at.y, at.x + 2, at.y + 2}, *sprite, {0, 0, 2, 2}, kBltWait);
+  };
+  const auto shown_is_back = [&] {
+    const RasterBitmap& pixels = static_cast<RasterSurface&>(*back).Bitmap();
+    return std::equal(pixels.Pixels(), pixels.Pixels() + kFrameWidth * kFrameHeight,
+                      screen_.Frame());
+  };
+  for (int step = 0; step < 40; ++step) {
+    compose({step * 3 % 17, step * 5 % 11});
+    if (step % 4 == 1) static_cast<RasterSurface&>(*back).Bitmap();  // looked at, not presented
+    if (step % 4 == 1) compose({step, step});
+    if (step % 7 == 2) Fill(*sprite, {step % 2 == 0 ? "gg" : "rr", "bb"});
+    if (step % 9 == 5) Fill(*primary, {"g"});  // somebody else draws on the screen
+    ASSERT_EQ(primary->Blt(kWhole, *back, kWhole, kBltWait), DrawStatus::kOk);
+    ASSERT_TRUE(shown_is_back()) << "step " << step;
+  }
+  const std::uint64_t version = screen_.Bitmap()->Version();
+  ASSERT_EQ(primary->Blt(kWhole, *back, kWhole, kBltWait), DrawStatus::kOk);
+  EXPECT_EQ(screen_.Bitmap()->Version(), version);  // the same frame again touches no pixel
 }
 
 TEST_F(RasterDirectDrawTest, ALostSurfaceReportsItUntilRestoreAndIsThenBlack) {

@@ -1,0 +1,114 @@
+#include "toolbelt/ToolBelt.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+
+#include "toolbelt/PngFile.h"
+#include "toolbelt/SmallestContent.h"
+#include "toolbelt/TemporaryFolder.h"
+
+namespace quendle {
+namespace {
+
+struct Folder : TemporaryFolder {
+  std::string File(const std::string& name) const { return Path() + "/" + name; }
+};
+
+TEST(ToolBelt, UnknownWordsAreAUsageError) {
+  EXPECT_EQ(RunToolBelt({}), 2);
+  EXPECT_EQ(RunToolBelt({"dance"}), 2);
+  EXPECT_EQ(RunToolBelt({"picture", "one"}), 2);
+  EXPECT_EQ(RunToolBelt({"drive", "--content", "/no/such/folder"}), 2);
+  EXPECT_EQ(RunToolBelt({"--help"}), 0);
+}
+
+TEST(ToolBelt, AskingForHelpExcusesNoUnknownWord) {
+  EXPECT_EQ(RunToolBelt({"dance", "--help"}), 2);
+  EXPECT_EQ(RunToolBelt({"--help", "dance"}), 2);
+  EXPECT_EQ(RunToolBelt({"new", "--dance", "--help"}), 2);
+}
+
+TEST(ToolBelt, AnUnknownWordIsToldWithTheNearestCommand) {
+  testing::internal::CaptureStderr();
+  RunToolBelt({"rendr"});
+  EXPECT_THAT(testing::internal::GetCapturedStderr(),
+              testing::HasSubstr("\"rendr\"; did you mean \"render\"?"));
+}
+
+std::string HelpOf(std::vector<std::string> words) {
+  words.push_back("--help");
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(RunToolBelt(words), 0);
+  return testing::internal::GetCapturedStdout();
+}
+
+TEST(ToolBelt, EveryCommandTellsAnExampleAndItsExitCodes) {
+  std::istringstream belt(HelpOf({}));
+  int commands = 0;
+  bool below_a_group = false;
+  for (std::string line; std::getline(belt, line);) {
+    if (line.empty() || line.front() != ' ') {
+      below_a_group =
+          testing::Matches(testing::AnyOf("Playing:", "Checking:", "Making:", "Measuring:"))(line);
+    } else if (below_a_group && line[2] != ' ') {
+      const std::string name = line.substr(2, line.find(' ', 2) - 2);
+      const std::string help = HelpOf({name});
+      EXPECT_THAT(help, testing::ContainsRegex("Examples?:\n  quendle " + name + "[ \n]")) << name;
+      EXPECT_THAT(help, testing::ContainsRegex("Exit code:\n  0  .+\n  1  .+\n  2  ")) << name;
+      ++commands;
+    }
+  }
+  EXPECT_GE(commands, 5);
+}
+
+TEST(ToolBelt, AManPageIsAskedForByACommandsName) {
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(RunToolBelt({"--man"}), 0);
+  EXPECT_EQ(RunToolBelt({"--man", "render"}), 0);
+  const std::string pages = testing::internal::GetCapturedStdout();
+  EXPECT_THAT(pages, testing::HasSubstr(".TH QUENDLE 1\n"));
+  EXPECT_THAT(pages, testing::HasSubstr(".TH QUENDLE-RENDER 1\n"));
+  EXPECT_THAT(pages, testing::HasSubstr("\\fB\\-\\-state\\fR \\fIOBJECT=STATE\\fR\n"));
+  EXPECT_EQ(RunToolBelt({"--man", "dance"}), 2);
+  EXPECT_EQ(RunToolBelt({"--man", "render", "dance"}), 2);
+}
+
+TEST(ToolBelt, TheHelpFitsATerminal) {
+  std::istringstream help(HelpOf({}));
+  for (std::string line; std::getline(help, line);) EXPECT_LE(line.size(), 80u) << line;
+}
+
+TEST(ToolBelt, ANewTreeIsMadeOnlyWhereNothingIs) {
+  Folder folder;
+  EXPECT_EQ(RunToolBelt({"new", folder.File("tree")}), 0);
+  EXPECT_TRUE(std::filesystem::exists(folder.File("tree/Info/screens.txt")));
+  EXPECT_EQ(RunToolBelt({"new", folder.File("tree")}), 1);
+}
+
+TEST(ToolBelt, AScreenIsRenderedAndTheTreeStaysAsItWas) {
+  Folder folder;
+  MakeNewContent(folder.File("tree"));
+  const std::string picture = folder.File("hall.png");
+  EXPECT_EQ(RunToolBelt({"render", folder.File("tree"), "hall", picture}), 0);
+  const SheerPicture hall = ReadPng(picture);
+  EXPECT_EQ(hall.width, 800);
+  EXPECT_EQ(hall.height, 600);
+  EXPECT_EQ(hall.pixels[799] & 0xFFFFFF, 0xF2E2BFu);
+  EXPECT_FALSE(std::filesystem::exists(folder.File("tree/GameRunning.txt")));
+  EXPECT_EQ(RunToolBelt({"render", folder.File("tree"), "hell", picture}), 1);
+  std::filesystem::remove(folder.File("tree/Info/screens.txt"));
+  EXPECT_EQ(RunToolBelt({"render", folder.File("tree"), "hall", picture}), 3);
+}
+
+TEST(ToolBelt, ABenchWithoutItsInputsFails) {
+  Folder folder;
+  EXPECT_EQ(RunToolBelt({"bench", "W1", "--data", folder.File("")}), 1);
+  EXPECT_EQ(RunToolBelt({"bench", "W3", "--data", folder.File("")}), 1);
+  EXPECT_EQ(RunToolBelt({"bench", "W2", "--data", folder.File("")}), 0);
+}
+
+}  // namespace
+}  // namespace quendle
