@@ -1,4 +1,4 @@
-# Tests: one executable a room from tests/<room>/*.cpp, one run for every scenario file.
+# Tests: one executable a room from tests/<room>/*.cpp, one run for every scenario and recording.
 
 enable_testing()
 find_package(GTest REQUIRED)
@@ -71,4 +71,23 @@ function(quendle_scenarios)
   set_tests_properties(scenario.photograph_stays PROPERTIES
     TIMEOUT 300 LABELS scenario SKIP_RETURN_CODE 77
     ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+endfunction()
+
+# Every session tests/recordings/NAME.txt becomes the test `recording.NAME`.
+function(quendle_recordings)
+  set(runner ${PROJECT_SOURCE_DIR}/tests/recordings/run.py)
+  file(GLOB sessions CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/recordings/*.txt)
+  # What stands beside a session has one more word in its name.
+  list(FILTER sessions EXCLUDE REGEX "\\.(sidecar|differs)\\.txt$")
+  if(NOT sessions OR NOT TARGET quendle)
+    return()
+  endif()
+  foreach(session IN LISTS sessions)
+    get_filename_component(name ${session} NAME_WE)
+    add_test(NAME recording.${name}
+             COMMAND ${Python3_EXECUTABLE} ${runner} $<TARGET_FILE:quendle>
+                     ${QUENDLE_CONTENT_DIR} ${session})
+    set_tests_properties(recording.${name} PROPERTIES
+      TIMEOUT 300 LABELS recording ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  endforeach()
 endfunction()

@@ -59,8 +59,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   EndsWell([&] {
     for (int i = 0; i < kMostLines && !lines.AtEndOfStream(); ++i) {
       Do(bench, lines.ReadLine("a message"));
-      bench.logic->draw();
     }
+    bench.logic->draw();
     bench.logic->TurnOff();
   });
   return 0;

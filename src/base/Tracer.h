@@ -4,7 +4,22 @@
 
 namespace quendle {
 
-enum class TraceKind { kMessage, kScript, kStatement, kState, kSound, kTimer, kScreen, kLog };
+enum class TraceKind {
+  kMessage,
+  kScript,
+  kStatement,
+  kState,
+  kSound,
+  kTimer,
+  kScreen,
+  kLog,
+  // What a click found on its way:
+  kClick,   // begins (to: the pointer, text: "X,Y") and ends (no text; from: "skipped" where a new
+            // pointer kept it from the screen)
+  kHit,     // an object is under the pointer (text: the region)
+  kBranch,  // an `if` of a script was decided (from: FILE:LINE, text: the condition; no text where
+            // no branch matched)
+};
 
 struct TraceEvent {
   TraceKind kind;

@@ -5,6 +5,7 @@
 
 #include "base/ContentFiles.h"
 #include "base/Settings.h"
+#include "base/Text.h"
 #include "diagnostics/GameSnapshot.h"
 #include "diagnostics/LineStream.h"
 #include "logic/GameLogicLayer.h"
@@ -19,6 +20,14 @@ namespace {
 
 constexpr long kSecond = 1000;
 
+// As the settings file has it.
+std::string LevelOf(const Settings& settings) {
+  for (const char* level : {"Easy", "Hard"}) {
+    if (EqualsNoCase(settings.DifficultyLevel, level)) return level;
+  }
+  return "Normal";
+}
+
 }  // namespace
 
 SidecarWriter::SidecarWriter(ObjectWorld& world, std::weak_ptr<GameLogicLayer> logic,
@@ -30,7 +39,7 @@ SidecarWriter::~SidecarWriter() = default;
 void SidecarWriter::FillIn() {
   const MediaWorld& media = world_.media;
   conditions_.edition = media.settings.GameEdition;
-  conditions_.difficulty = media.settings.DifficultyLevel;
+  conditions_.difficulty = LevelOf(media.settings);
   conditions_.safe_mode = media.settings.SafeMode;
   conditions_.personalize = media.settings.PersonalizeOn;
   conditions_.depth = media.settings.GraphicsMode;

@@ -28,6 +28,7 @@ void TestingObject::RegisterNewEventFile(const std::string& category, const std:
 void TestingObject::LogEvent(std::string_view message, int level, std::string_view category) {
   if (thresholds_.Item(category) < level) return;
   if (watch_ != nullptr) watch_->Trace(TraceKind::kLog, category, "", message);
+  if (mirror_ != nullptr) mirror_->PutOnTop(message);
   if (write_to_file_) {
     streams_.Item(category)->WriteLine(message);
   } else if (window_ != nullptr) {

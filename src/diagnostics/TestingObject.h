@@ -38,6 +38,9 @@ class TestingObject : public EventSink {
   // Where messages go. The window takes them only while the file doesn't; null for none.
   void SetWriteToFile(bool on) { write_to_file_ = on; }
   void SetWriteToWindow(Debomb_Window* window) { window_ = window; }
+  // A window that takes each accepted message beside the file, so that the file misses none; null
+  // for none.
+  void SetMirror(Debomb_Window* window) { mirror_ = window; }
 
  private:
   FileSystem& files_;
@@ -45,6 +48,7 @@ class TestingObject : public EventSink {
   Watch* watch_;
   bool write_to_file_ = true;
   Debomb_Window* window_ = nullptr;
+  Debomb_Window* mirror_ = nullptr;
   KeyedList<std::unique_ptr<LineWriter>> streams_{"log file"};
   KeyedList<std::int16_t> thresholds_{"log category"};
   ObjectList attached_{"logged object"};

@@ -159,14 +159,24 @@ void GameLogicLayer::TellTester(const char* action, std::int16_t x, std::int16_t
 void GameLogicLayer::MapMouseClick(std::int16_t x, std::int16_t y) {
   TellTester("mouseclick", x, y);
   PlaceAt(m_ptrCursorObject, x, y, kPointerOffset);
+  TraceClick(Point{x, y}, false);
   const ActionText& action = world_.scripts.actions.Get(m_strCurrentCursor + "mouseclick");
   UpdateUpperLayers(x, y, action);
-  if (!m_bSkipNextClick) {
+  const bool skipped = m_bSkipNextClick;
+  if (!skipped) {
     ObjectRef screen = m_ptrCurrentScreen;
     if (screen == nullptr) throw FatalError("a click finds no current screen");
     screen->UpdateGameObject(x, y, action);
   }
+  TraceClick(std::nullopt, skipped);
   m_bSkipNextClick = false;
+}
+
+void GameLogicLayer::TraceClick(std::optional<Point> begin, bool skipped) {
+  if (world_.watch.tracer == nullptr) return;
+  const std::string place =
+      begin ? std::to_string(begin->x) + "," + std::to_string(begin->y) : std::string();
+  world_.watch.Trace(TraceKind::kClick, m_strCurrentCursor, skipped ? "skipped" : "", place);
 }
 
 void GameLogicLayer::MapMouseCoords(std::int16_t x, std::int16_t y) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -135,6 +136,8 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void EndSubgame(const char* patient_message);
   void EnterScreen(const std::string& name);
   void GiveOneTimeHelp(const std::string& name);
+  // A click begins at that point; nothing for its end, and whether the screen was spared it.
+  void TraceClick(std::optional<Point> begin, bool skipped);
   void UpdateUpperLayers(std::int16_t x, std::int16_t y, const ActionText& action);
   void StartMusic();
   void CountDraw();

@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Words.h"
+#include "object/MessageWork.h"
 
 namespace quendle {
 namespace {
@@ -58,24 +59,43 @@ void ScreenObject::HandleMessage(const std::string& message, GameObjectInterface
                                  bool verifying, bool& result) {
   if (ContainsNoCase(message, "addglobalobj")) {
     AddGlobalObject(message, sender, verifying, result);
-  } else if (EqualsNoCase(message, "inctoolcounter")) {
-    if (!verifying) Scroll(1);
-  } else if (EqualsNoCase(message, "dectoolcounter")) {
-    if (!verifying) Scroll(-1);
-  } else if (ContainsNoCase(message, "tool") &&
-             !HoldsAny(message, {"removeobj", "runscript", "toobj"})) {
-    // Messages on tools go straight up to the rules of the game.
-    Inner().NotifyParent(message, verifying, result);
-  } else if (ContainsNoCase(message, "subgame")) {
-    Inner().NotifyParent(message, verifying, result);
-  } else if (ContainsNoCase(message, "removeallchildren") && IsNamedTools()) {
-    if (!verifying) RemoveTools(false);
-  } else if (ContainsNoCase(message, "removechildren") && IsNamedTools()) {
-    if (!verifying) RemoveTools(true);
-  } else if (ContainsNoCase(message, "addchild?") && IsNamedTools()) {
-    AnswerOffer(message, verifying, result);
-  } else {
+    return;
+  }
+  const Decision decision = DecisionOn(message);
+  if (decision == Decision::kInner) {
     Inner().HandleMessage(message, sender, verifying, result);
+    return;
+  }
+  const MessageWork work(Inner(), message, sender, verifying);
+  if (decision == Decision::kPassUp) {
+    Inner().NotifyParent(message, verifying, result);
+  } else if (decision == Decision::kAnswerOffer) {
+    AnswerOffer(message, verifying, result);
+  } else if (!verifying) {
+    ChangeBar(decision);
+  }
+}
+
+ScreenObject::Decision ScreenObject::DecisionOn(const std::string& message) const {
+  if (EqualsNoCase(message, "inctoolcounter")) return Decision::kScrollOn;
+  if (EqualsNoCase(message, "dectoolcounter")) return Decision::kScrollBack;
+  // Messages on tools go straight up to the rules of the game.
+  if (ContainsNoCase(message, "tool") && !HoldsAny(message, {"removeobj", "runscript", "toobj"})) {
+    return Decision::kPassUp;
+  }
+  if (ContainsNoCase(message, "subgame")) return Decision::kPassUp;
+  if (!IsNamedTools()) return Decision::kInner;
+  if (ContainsNoCase(message, "removeallchildren")) return Decision::kRemoveAll;
+  if (ContainsNoCase(message, "removechildren")) return Decision::kRemoveMost;
+  if (ContainsNoCase(message, "addchild?")) return Decision::kAnswerOffer;
+  return Decision::kInner;
+}
+
+void ScreenObject::ChangeBar(Decision decision) {
+  if (decision == Decision::kScrollOn || decision == Decision::kScrollBack) {
+    Scroll(decision == Decision::kScrollOn ? 1 : -1);
+  } else {
+    RemoveTools(decision == Decision::kRemoveMost);
   }
 }
 

@@ -29,6 +29,18 @@ class ScreenObject : public ForwardingObject {
   std::int16_t ToolOffset() const { return m_nToolOffset; }
 
  private:
+  // What a screen does with a message; kInner leaves it to the inner object.
+  enum class Decision {
+    kInner,
+    kScrollOn,
+    kScrollBack,
+    kPassUp,
+    kRemoveAll,
+    kRemoveMost,  // the medical book stays
+    kAnswerOffer
+  };
+  Decision DecisionOn(const std::string& message) const;
+  void ChangeBar(Decision decision);
   bool IsNamedTools() const;
   void AddGlobalObject(const std::string& message, GameObjectInterface* sender, bool verifying,
                        bool& result);

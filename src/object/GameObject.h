@@ -144,6 +144,11 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   const std::string& CurrentSoundName() const { return CurrentSoundName_; }
   const std::string& CurrentRegion() const { return CurrentRegion_; }
   const std::string& ObjDirectory() const { return ObjDirectory_; }
+  // The script of the current state; null for none.
+  const ScriptState* CurrentScript() const { return current_script_.get(); }
+  // The region that an event at that point would find, or null. Changes nothing.
+  const Region* RegionUnder(int x, int y) const;
+  Watch& GetWatch() const { return world_.watch; }
 
  private:
   // One message on its way through the table of verbs.
@@ -173,6 +178,7 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   bool HurtPatientStartsOver();
   void ResetSurgeryMachine();
   void RunStateScript(const ActionText& action);
+  void Execute(const ScriptState& script, const ActionText& action);
 
   // Animation.
   void RunAnimation(const std::string& name);
@@ -185,6 +191,7 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
 
   // Hit test.
   const AnimationFrame* HitFrame(int x, int y, int& offset_x, int& offset_y) const;
+  const std::vector<Region>* RegionsAt(int x, int y, int& offset_x, int& offset_y) const;
   const std::string& GetRegionAtPoint(int x, int y);
 
   // Statements.

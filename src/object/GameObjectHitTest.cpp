@@ -15,6 +15,15 @@ int OffsetFrom(int position, int placement, int coordinate) {
   return coordinate - ResolveFramePosition(position, placement);
 }
 
+// Of regions that overlap the last counts.
+const Region* LastHolding(const std::vector<Region>& regions, int x, int y) {
+  const Region* hit = nullptr;
+  for (const Region& region : regions) {
+    if (region.Holds(x, y)) hit = &region;
+  }
+  return hit;
+}
+
 }  // namespace
 
 bool GameObject::AreWeOnTheObject(std::int16_t x, std::int16_t y) {
@@ -53,23 +62,29 @@ const AnimationFrame* GameObject::HitFrame(int x, int y, int& offset_x, int& off
   return hit;
 }
 
+const std::vector<Region>* GameObject::RegionsAt(int x, int y, int& offset_x, int& offset_y) const {
+  const AnimationFrame* frame = HitFrame(x, y, offset_x, offset_y);
+  if (frame == nullptr || EqualsNoCase(frame->RegionKey, "nothing")) return nullptr;
+  return FrameRegions_.Find(frame->RegionKey);
+}
+
+const Region* GameObject::RegionUnder(int x, int y) const {
+  int offset_x = 0;
+  int offset_y = 0;
+  const std::vector<Region>* regions = RegionsAt(x, y, offset_x, offset_y);
+  return regions == nullptr ? nullptr : LastHolding(*regions, offset_x, offset_y);
+}
+
 const std::string& GameObject::GetRegionAtPoint(int x, int y) {
   int offset_x = 0;
   int offset_y = 0;
-  const AnimationFrame* frame = HitFrame(x, y, offset_x, offset_y);
-  const std::vector<Region>* regions = nullptr;
-  if (frame != nullptr && !EqualsNoCase(frame->RegionKey, "nothing")) {
-    regions = FrameRegions_.Find(frame->RegionKey);
-  }
+  const std::vector<Region>* regions = RegionsAt(x, y, offset_x, offset_y);
   if (regions == nullptr) {
     CurrentRegion_.clear();
     return kNoRegion;
   }
   // A miss inside a frame with regions keeps the region hit before.
-  const Region* hit = nullptr;
-  for (const Region& region : *regions) {
-    if (region.Holds(offset_x, offset_y)) hit = &region;
-  }
+  const Region* hit = LastHolding(*regions, offset_x, offset_y);
   if (hit == nullptr) return kNoRegion;
   CurrentRegion_ = hit->Name();
   return CurrentRegion_;

@@ -24,6 +24,28 @@ bool Holds(GameObjectInterface& tree, const GameObjectInterface* wanted) {
   return false;
 }
 
+// Traces the branches that one run of a script takes.
+class BranchTracer : public BranchListener {
+ public:
+  BranchTracer(Watch& watch, std::string object) : watch_(watch), object_(std::move(object)) {}
+
+  void Chosen(const Command* condition, bool matched) override {
+    if (watch_.tracer == nullptr) return;
+    if (condition == nullptr) {
+      watch_.Trace(TraceKind::kBranch, object_, "", matched ? "else" : "");
+      return;
+    }
+    const FilePlace& place = condition->Place();
+    const std::string word = condition->Type() == NodeType::kBoolElseIf ? "elseif" : "if";
+    watch_.Trace(TraceKind::kBranch, object_, place.file + ":" + std::to_string(place.line),
+                 word + condition->Text());
+  }
+
+ private:
+  Watch& watch_;
+  std::string object_;
+};
+
 // A coordinate of the parent as seen by a child.
 inline std::int16_t Relative(int coordinate, int origin) {
   const int relative = coordinate - origin;
@@ -76,6 +98,7 @@ void GameObject::UpdateGameObject(std::int16_t x, std::int16_t y, const ActionTe
     RunStateScript(action);
   } else if (Visible_ && AreWeOnTheObject(x, y)) {
     const std::string& region = GetRegionAtPoint(x, y);
+    world_.watch.Trace(TraceKind::kHit, ObjectName_, "", region);
     if (region.empty()) {
       RunStateScript(action);
     } else {
@@ -97,10 +120,9 @@ void GameObject::UpdateGameObject(std::int16_t x, std::int16_t y, const ActionTe
 
 void GameObject::RunStateScript(const ActionText& action) {
   if (current_script_ == nullptr || SelfReference_ == nullptr) return;
-  world_.watch.Trace(TraceKind::kScript, ObjectName_, current_script_->Name(), action.Text());
   // A strong copy: the script may release the object that it runs on.
   std::shared_ptr<ScriptState> script = current_script_;
-  script->Execute(ScriptVariables(action), *SelfReference_);
+  Execute(*script, action);
 }
 
 void GameObject::RunScript(const std::string& name) {
@@ -108,9 +130,17 @@ void GameObject::RunScript(const std::string& name) {
   const auto* found = Scripts_.Find(name);
   if (found == nullptr) return;
   std::shared_ptr<ScriptState> script = *found;
-  const ActionText nothing("nothing");
-  world_.watch.Trace(TraceKind::kScript, ObjectName_, script->Name(), nothing.Text());
-  script->Execute(ScriptVariables(nothing), *SelfReference_);
+  Execute(*script, ActionText("nothing"));
+}
+
+void GameObject::Execute(const ScriptState& script, const ActionText& action) {
+  if (world_.watch.tracer == nullptr) {
+    script.Execute(ScriptVariables(action), *SelfReference_);
+    return;
+  }
+  world_.watch.Trace(TraceKind::kScript, ObjectName_, script.Name(), action.Text());
+  BranchTracer branches(world_.watch, ObjectName_);
+  script.Execute(ScriptVariables(action, &branches), *SelfReference_);
 }
 
 void GameObject::AddChildObject(ObjectRef child) {

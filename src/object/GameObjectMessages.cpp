@@ -4,6 +4,7 @@
 #include "base/Watch.h"
 #include "base/Words.h"
 #include "object/GameObject.h"
+#include "object/MessageWork.h"
 #include "script/ScriptWorld.h"
 
 namespace quendle {
@@ -59,11 +60,7 @@ const std::vector<GameObject::MessageRow>& GameObject::MessageTable() {
 
 void GameObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
                                bool verifying, bool& result) {
-  DepthGuard guard(world_.watch.depth, Work::kMessage, message, this);
-  if (world_.watch.tracer != nullptr) {
-    world_.watch.Trace(TraceKind::kMessage, ObjectName_,
-                       sender != nullptr ? sender->ObjectName() : "", message, verifying);
-  }
+  const MessageWork work(*this, message, sender, verifying);
   const Words words(message, '_');
   GameObjectInterface* self = SelfReference_ != nullptr ? SelfReference_ : this;
   MessageCall call{message, words, self, verifying, result};

@@ -1,6 +1,7 @@
 #include "personalize/FaceCut.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "personalize/FaceFilter.h"
 #include "personalize/MemoryBitmap.h"
@@ -33,6 +34,11 @@ Rect BoundingBox(const std::vector<Point>& points) {
   const auto [left, right] = std::ranges::minmax(points, {}, &Point::x);
   const auto [top, bottom] = std::ranges::minmax(points, {}, &Point::y);
   return {left.x, top.y, right.x, bottom.y};
+}
+
+std::int16_t MovedFace(std::int16_t offset, int step) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  return static_cast<std::int16_t>(std::clamp<int>(offset + step, Limits::min(), Limits::max()));
 }
 
 void Resize(Gdi& gdi, ContextHandle target, ContextHandle source, Size from, Size to) {

@@ -1,8 +1,5 @@
 #include "personalize/frmEditDoctorCursor.h"
 
-#include <algorithm>
-#include <limits>
-
 #include "base/ContentFiles.h"
 #include "base/FatalError.h"
 #include "dialogs/FormLayout.h"
@@ -26,12 +23,6 @@ constexpr Rect kLargeView{36, 86, 228, 470};  // three times the canvas
 constexpr Rect kSmallView{398, 340, 462, 468};
 constexpr int kArrow = 64;
 constexpr Point kArrows{430, 196};  // the middle of the four
-
-// The offset has 16 bits and stops at their end.
-std::int16_t Moved(std::int16_t offset, int step) {
-  using Limits = std::numeric_limits<std::int16_t>;
-  return static_cast<std::int16_t>(std::clamp<int>(offset + step, Limits::min(), Limits::max()));
-}
 
 Rect ArrowPlace(int columns, int rows) {
   const int left = kArrows.x + columns * (kArrow + 4) - kArrow / 2;
@@ -120,8 +111,8 @@ std::unique_ptr<MemoryBitmap> frmEditDoctorCursor::Load(const char* name) {
 }
 
 void frmEditDoctorCursor::Move(int x, int y) {
-  face_x_ = Moved(face_x_, x);
-  face_y_ = Moved(face_y_, y);
+  face_x_ = MovedFace(face_x_, x);
+  face_y_ = MovedFace(face_y_, y);
   RedrawComposite();
 }
 

@@ -79,6 +79,16 @@ std::uint32_t Program::Choose(const Choice& choice, const ScriptVariables& varia
   return target;
 }
 
+void Program::Tell(const Choice& choice, std::uint32_t target, BranchListener& listener) {
+  for (const Branch& branch : choice.branches) {
+    if (branch.target == target) {
+      listener.Chosen(branch.condition, true);
+      return;
+    }
+  }
+  listener.Chosen(nullptr, false);
+}
+
 Answer Program::Run(const ScriptVariables& variables, ScriptTarget& target) const {
   const std::size_t count = steps_.size();
   bool matched = true;
@@ -89,7 +99,9 @@ Answer Program::Run(const ScriptVariables& variables, ScriptTarget& target) cons
       target.Interpret(*step.statement, false, unused);
       ++at;
     } else if (step.kind == Kind::kChoose) {
-      const std::uint32_t next = Choose(choices_[step.target], variables);
+      const Choice& choice = choices_[step.target];
+      const std::uint32_t next = Choose(choice, variables);
+      if (variables.Listener() != nullptr) Tell(choice, next, *variables.Listener());
       if (at == 0) matched = next != choices_[0].otherwise;
       at = next;
     } else {

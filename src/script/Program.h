@@ -9,6 +9,7 @@
 namespace quendle {
 
 class ActionText;
+class BranchListener;
 
 // A tree of commands as a list of steps, side by side in memory: what an event has to look at.
 //
@@ -50,6 +51,7 @@ class Program {
   void EmitChoice(const Command* first, std::size_t count);
   std::uint32_t Next() const { return static_cast<std::uint32_t>(steps_.size()); }
   static std::uint32_t Choose(const Choice& choice, const ScriptVariables& variables);
+  static void Tell(const Choice& choice, std::uint32_t target, BranchListener& listener);
   static std::uint32_t Evaluate(const Choice& choice, const ScriptVariables& variables);
 
   std::vector<Step> steps_;

@@ -79,6 +79,7 @@ void Application::OpenGameWindow() {
   if (tester_) globals_->Tester = std::make_unique<TesterRun>(globals_->objects, *tester_);
   globals_->media.UseDirectX = true;
   globals_->media.FullScreen = true;
+  globals_->debug_window = debug_window_;
   SetTracer(tracer_);
   SetBlitWatcher(blit_watcher_);
   screen_ = std::make_unique<Quendle_Game_Screen>(*globals_, prompt_->Files());
@@ -122,6 +123,13 @@ void Application::GiveDisplayBack() {
 void Application::SetTracer(Tracer* tracer) {
   tracer_ = tracer;
   if (globals_ != nullptr) globals_->watch.tracer = tracer;
+}
+
+void Application::SetDebugWindow(Debomb_Window* window) {
+  debug_window_ = window;
+  if (globals_ == nullptr) return;
+  globals_->debug_window = window;
+  if (globals_->EventLog != nullptr) globals_->EventLog->SetMirror(window);
 }
 
 void Application::SetBlitWatcher(BlitWatcher* watcher) {

@@ -65,6 +65,8 @@ class Application : private GameStarter {
   // Told to the game when it starts; may be null.
   void SetTracer(Tracer* tracer);
   void SetBlitWatcher(BlitWatcher* watcher);
+  // Shows the event log of the game beside its file; told to the game when it starts. May be null.
+  void SetDebugWindow(Debomb_Window* window);
   // What is said; nothing before Play.
   CaptionSource& Captions() { return captions_; }
 
@@ -84,6 +86,7 @@ class Application : private GameStarter {
   std::optional<TesterOptions> tester_;
   Tracer* tracer_ = nullptr;
   BlitWatcher* blit_watcher_ = nullptr;
+  Debomb_Window* debug_window_ = nullptr;
   Status status_ = Status::kRunning;
   bool delivering_ = false;  // an outermost frame is on the stack
   FaultReport fault_;

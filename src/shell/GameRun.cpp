@@ -30,6 +30,7 @@ void SelectIllness(const Globals& globals) {
 void CreateEventLog(Globals& globals) {
   globals.EventLog = std::make_unique<TestingObject>(
       globals.media.ports.files, globals.media.settings.BaseDirectory, &globals.watch);
+  globals.EventLog->SetMirror(globals.debug_window);
   globals.EventLog->Initialize("general", "general.txt", nullptr, kLogThreshold);
   globals.media.log = globals.EventLog.get();
   globals.objects.log = globals.EventLog.get();

@@ -15,6 +15,7 @@ namespace quendle {
 
 class GameLogicLayer;
 class TesterRun;
+struct Debomb_Window;
 class TestingObject;
 
 // Everything that one game run shares, each world on the one below. Registries are created empty.
@@ -31,6 +32,7 @@ struct Globals {
   ObjectFactory factory;  // knows every type word
   ObjectWorld objects;
   std::unique_ptr<TestingObject> EventLog;
+  Debomb_Window* debug_window = nullptr;      // shows the event log too, if there is one
   std::shared_ptr<GameLogicLayer> GameLogic;  // null before it is created and after its end
   std::unique_ptr<TesterRun> Tester;          // null unless the recorder is switched on
 };

@@ -6,6 +6,7 @@
 #include "base/PathTokens.h"
 #include "base/Text.h"
 #include "media/MediaWorld.h"
+#include "object/MessageWork.h"
 #include "object/ObjectWorld.h"
 #include "script/Statement.h"
 #include "subgames/SubgameFiles.h"
@@ -38,9 +39,10 @@ void CellObject::HandleMessage(const std::string& message, GameObjectInterface* 
                                bool verifying, bool& result) {
   if (!EqualsNoCase(message, "reset")) {
     Inner().HandleMessage(message, sender, verifying, result);
-  } else if (!verifying) {
-    Inner().ProcessState("default");
+    return;
   }
+  const MessageWork work(Inner(), message, sender, verifying);
+  if (!verifying) Inner().ProcessState("default");
 }
 
 void CellObject::RunSound(const std::string& name) {

@@ -9,6 +9,7 @@
 #include "base/Text.h"
 #include "base/Watch.h"
 #include "media/MediaWorld.h"
+#include "object/MessageWork.h"
 #include "object/ObjectWorld.h"
 #include "platform/Clock.h"
 #include "platform/Ports.h"
@@ -108,9 +109,7 @@ void PlayAreaObject::HandleMessage(const std::string& message, GameObjectInterfa
     Inner().HandleMessage(message, sender, verifying, result);
     return;
   }
-  DepthGuard guard(world_.watch.depth, Work::kMessage, message, &Inner());
-  world_.watch.Trace(TraceKind::kMessage, ObjectName(),
-                     sender != nullptr ? sender->ObjectName() : "", message, verifying);
+  const MessageWork work(Inner(), message, sender, verifying);
   if (!verifying) row->act(message);
 }
 

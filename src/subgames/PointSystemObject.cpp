@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "object/MessageWork.h"
 
 namespace quendle {
 namespace {
@@ -36,9 +37,11 @@ void PointSystemObject::HandleMessage(const std::string& message, GameObjectInte
   const bool remove = EqualsNoCase(tokens[0], "removepoints");
   if (!add_class && !add && !remove) {
     Inner().HandleMessage(message, sender, verifying, result);
-  } else if (verifying) {
     return;
-  } else if (add_class) {
+  }
+  const MessageWork work(Inner(), message, sender, verifying);
+  if (verifying) return;
+  if (add_class) {
     AddClass(tokens);
   } else {
     ChangePoints(tokens, add ? 1 : -1);

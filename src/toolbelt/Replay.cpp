@@ -120,6 +120,8 @@ class ReplayedGame {
         session_(files_, faults_, content, OptionsOf(conditions, content)) {
     if (!conditions.sound) faults_.Plan("CreateGraph", 0, 0, false);
     session_.Platform().clock.SetTimeOfDay(static_cast<double>(conditions.clock) / 1000);
+    // The warning that the first drawing path fails is answered before the recorder's questions.
+    if (!conditions.direct_draw) session_.Platform().boxes.QueueAnswer("ok");
     session_.Platform().boxes.QueueAnswer("record");
     session_.Platform().boxes.QueueAnswer(kSessionName);
     RunCommandLine(session_, "play");
@@ -200,15 +202,15 @@ void TellNotes(const Sidecar& expected, const Sidecar& found) {
   }
 }
 
-void TellFault(const FaultReport& fault) {
-  std::cout << "the game ended fatally: " << ToUtf8(FatalError(fault.text, fault.place).what());
-  if (!fault.object.empty()) std::cout << " (object " << ToUtf8(fault.object) << ")";
-  std::cout << "\n";
+void TellFault(std::ostream& out, const FaultReport& fault) {
+  out << "the game ended fatally: " << ToUtf8(FatalError(fault.text, fault.place).what());
+  if (!fault.object.empty()) out << " (object " << ToUtf8(fault.object) << ")";
+  out << "\n";
 }
 
 }  // namespace
 
-int RunReplay(const ReplaySettings& settings) {
+int RunReplay(const ReplaySettings& settings, std::ostream& out) {
   const fs::path session = settings.session;
   const fs::path sidecar_path = SidecarOf(session);
   const std::vector<UserActionObj> actions = ReadSession(session);
@@ -222,26 +224,26 @@ int RunReplay(const ReplaySettings& settings) {
     fault = Play(game, expected, EventsOf(expected, actions));
   }
   if (fault && !fs::exists(fs::path(folder.Path()) / SidecarNameOf(kSessionName))) {
-    TellFault(*fault);
+    TellFault(out, *fault);
     return kGameFailed;
   }
   const fs::path anew = fs::path(folder.Path()) / SidecarNameOf(kSessionName);
   const Sidecar found = ReadSidecarFile(anew);
   if (settings.update && !fault) {
     fs::copy_file(anew, sidecar_path, fs::copy_options::overwrite_existing);
-    std::cout << sidecar_path.string() << ": written\n";
+    out << sidecar_path.string() << ": written\n";
     return 0;
   }
   TellNotes(expected, found);
   const std::optional<SidecarDifference> difference = FirstDifference(expected, found);
-  if (difference) std::cout << DescribeDifference(*difference) << "\n";
+  if (difference) out << DescribeDifference(*difference) << "\n";
   if (fault) {
-    TellFault(*fault);
+    TellFault(out, *fault);
     return kGameFailed;
   }
   if (difference) return kDifferent;
-  std::cout << "the same: " << expected.states.size() << " states of " << expected.last_time / kStep
-            << " seconds\n";
+  out << "the same: " << expected.states.size() << " states of " << expected.last_time / kStep
+      << " seconds\n";
   return 0;
 }
 

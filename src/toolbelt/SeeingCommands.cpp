@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/Text.h"
+#include "diagnostics/PointerReport.h"
 #include "logic/GameLogicLayer.h"
 #include "object/ForwardingObject.h"
 #include "object/GameObject.h"
@@ -131,6 +132,12 @@ const char* KindName(TraceKind kind) {
       return "screen";
     case TraceKind::kLog:
       return "log";
+    case TraceKind::kClick:
+      return "click";
+    case TraceKind::kHit:
+      return "hit";
+    case TraceKind::kBranch:
+      return "branch";
   }
   return "";
 }
@@ -149,6 +156,63 @@ Json Events(DriveSession& session, Arguments& arguments) {
   return {{"events", std::move(list)}};
 }
 
+Json AreasJson(const std::vector<NamedArea>& areas) {
+  Json list = Json::array();
+  for (const NamedArea& area : areas) {
+    list.push_back({{"name", TextJson(area.name)},
+                    {"x", area.area.left},
+                    {"y", area.area.top},
+                    {"width", area.area.Width()},
+                    {"height", area.area.Height()}});
+  }
+  return list;
+}
+
+Json Under(DriveSession& session, Arguments& arguments) {
+  const int x = static_cast<int>(arguments.Whole(0, kFrameWidth - 1));
+  const int y = static_cast<int>(arguments.Whole(0, kFrameHeight - 1));
+  arguments.End();
+  Json list = Json::array();
+  for (const ObjectUnder& object : ObjectsUnder({x, y}, session.Logic(), session.World().objects)) {
+    list.push_back({{"path", TextJson(object.path)},
+                    {"type", TextJson(object.type)},
+                    {"hidden", object.hidden},
+                    {"hit", object.hit},
+                    {"state", TextJson(object.state)},
+                    {"history", TextListJson(object.history)},
+                    {"script", TextJson(object.script)},
+                    {"region", TextJson(object.region)},
+                    {"animation", TextJson(object.animation)},
+                    {"frames", AreasJson(object.frames)},
+                    {"regions", AreasJson(object.regions)},
+                    {"timer", object.timer},
+                    {"interval", object.interval},
+                    {"due", object.due},
+                    {"sound", TextJson(object.sound)},
+                    {"sounding", object.sounding}});
+  }
+  return {{"under", std::move(list)}};
+}
+
+Json Trail(DriveSession& session, Arguments& arguments) {
+  arguments.End();
+  const ClickTrail& trail = session.Trace().Trail();
+  if (trail.Empty()) throw CommandRefused("no click was traced: use `trace on` and click first");
+  Json steps = Json::array();
+  for (const TrailStep& step : trail.Steps()) {
+    steps.push_back({{"kind", KindName(step.kind)},
+                     {"to", TextJson(step.to)},
+                     {"from", TextJson(step.from)},
+                     {"text", TextJson(step.text)},
+                     {"depth", step.depth}});
+  }
+  return {{"click", TextJson(trail.Place())},
+          {"pointer", TextJson(trail.Pointer())},
+          {"skipped", trail.Skipped()},
+          {"leftOut", trail.LeftOut()},
+          {"steps", std::move(steps)}};
+}
+
 }  // namespace
 
 const CommandTable& SeeingCommands() {
@@ -164,6 +228,8 @@ const CommandTable& SeeingCommands() {
       {"trace on|off", "watch messages, scripts, states, sounds, timers, screens, the log",
        SwitchTrace},
       {"events", "what was traced since last asked", Events},
+      {"under X Y", "the objects at that point of the frame, topmost first", Under},
+      {"trail", "the way of the last click that was traced", Trail},
   };
   return kTable;
 }

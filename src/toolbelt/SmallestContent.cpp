@@ -9,6 +9,7 @@
 #include "backends/raster/BitmapWriter.h"
 #include "logic/IllnessFiles.h"
 #include "platform/Geometry.h"
+#include "toolbelt/NewContentReadme.h"
 
 namespace quendle {
 namespace {
@@ -173,7 +174,9 @@ void MakeNewContent(const std::string& folder) {
   if (fs::exists(folder) && !fs::is_empty(folder)) {
     throw std::runtime_error(folder + ": is there already and holds files");
   }
-  for (const ContentPiece& piece : SmallestContent()) {
+  std::vector<ContentPiece> pieces = SmallestContent();
+  pieces.push_back({"\\README.md", std::string(NewContentReadme())});
+  for (const ContentPiece& piece : pieces) {
     const fs::path path = NativePath(folder, piece.path);
     fs::create_directories(path.parent_path());
     std::ofstream file(path, std::ios::binary);

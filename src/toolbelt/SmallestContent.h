@@ -15,8 +15,8 @@ struct ContentPiece {
 // hall, a door in the hall that leads back, an empty tool bar, and a hand for a pointer.
 std::vector<ContentPiece> SmallestContent();
 
-// `quendle new`: writes that tree into a folder, which is made and must not hold anything yet.
-// Throws std::runtime_error when that fails.
+// `quendle new`: writes that tree, with a README.md that tells its files, into a folder, which is
+// made and must not hold anything yet. Throws std::runtime_error when that fails.
 void MakeNewContent(const std::string& folder);
 
 }  // namespace quendle

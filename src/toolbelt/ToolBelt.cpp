@@ -6,19 +6,21 @@
 
 #include "base/FatalError.h"
 #include "toolbelt/HelpFormatter.h"
+#include "toolbelt/ManPage.h"
 #include "toolbelt/commands/Commands.h"
 
 namespace quendle {
 namespace {
 
 constexpr int kUsageError = 2;
+constexpr const char* kMan = "--man";
 
 // In the order of the help, group by group.
 constexpr void (*kCommands[])(CLI::App&, int&) = {
-    AddDrive,  AddReplay,              // playing
-    AddVerify, AddWalk,    AddTree,    // checking
-    AddNew,    AddPicture, AddRender,  // making
-    AddBench,                          // measuring
+    AddDrive,  AddReplay,                       // playing
+    AddVerify, AddWalk,    AddRandom, AddTree,  // checking
+    AddNew,    AddPicture, AddRender,           // making
+    AddBench,                                   // measuring
 };
 
 constexpr const char* kFooter =
@@ -34,12 +36,25 @@ int TellUsageError(const std::string& text) {
   return kUsageError;
 }
 
-int TellUnknownWord(const CLI::App& belt) {
-  const std::vector<std::string> unknown = belt.remaining(true);
+int TellUnknownWord(const CLI::App& belt, const std::string& word) {
   std::vector<std::string> names;
   for (const CLI::App* command : belt.get_subcommands({})) names.push_back(command->get_name());
-  return TellUsageError("there is no command or word \"" + unknown.front() + "\"" +
-                        DidYouMean(unknown.front(), names));
+  return TellUsageError("there is no command or word \"" + word + "\"" + DidYouMean(word, names));
+}
+
+// --man [COMMAND]: read here, since the parser would take a command's name for a call of it.
+int PrintManPage(const CLI::App& belt, const std::vector<std::string>& words) {
+  if (words.size() > 2) return TellUnknownWord(belt, words[2]);
+  if (words.size() < 2) {
+    std::cout << ManPageOfBelt(belt);
+    return 0;
+  }
+  for (const CLI::App* command : belt.get_subcommands({})) {
+    if (command->get_name() != words[1]) continue;
+    std::cout << ManPageOfCommand(*command);
+    return 0;
+  }
+  return TellUnknownWord(belt, words[1]);
 }
 
 }  // namespace
@@ -52,14 +67,18 @@ int RunToolBelt(std::vector<std::string> words) {
   belt.footer(kFooter);
   int exit_code = 0;
   for (const auto add : kCommands) add(belt, exit_code);
+  belt.add_option(kMan, "Print this page of the manual, or a command's, as roff")
+      ->option_text("[COMMAND]");
+  if (!words.empty() && words.front() == kMan) return PrintManPage(belt, words);
   std::ranges::reverse(words);  // the parser takes them from the back
   try {
     belt.parse(words);
   } catch (const CLI::Success& asked) {
     // Asking for help excuses no word that nothing knows.
-    return belt.remaining(true).empty() ? belt.exit(asked) : TellUnknownWord(belt);
+    const std::vector<std::string> unknown = belt.remaining(true);
+    return unknown.empty() ? belt.exit(asked) : TellUnknownWord(belt, unknown.front());
   } catch (const CLI::ExtrasError&) {
-    return TellUnknownWord(belt);
+    return TellUnknownWord(belt, belt.remaining(true).front());
   } catch (const CLI::ParseError& error) {
     return TellUsageError(error.what());
   } catch (const std::exception& error) {

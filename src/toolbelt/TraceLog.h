@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Tracer.h"
+#include "diagnostics/ClickTrail.h"
 
 namespace quendle {
 
@@ -22,13 +23,18 @@ struct TracedEvent {
 class TraceLog : public Tracer {
  public:
   void Trace(const TraceEvent& event) override {
+    trail_.Trace(event);
+    if (event.kind > TraceKind::kLog) return;  // told by the trail
     events_.push_back({event.kind, std::string(event.to), std::string(event.from),
                        std::string(event.text), event.verifying, event.depth});
   }
   std::vector<TracedEvent> Take() { return std::exchange(events_, {}); }
+  // Of the last click.
+  const ClickTrail& Trail() const { return trail_; }
 
  private:
   std::vector<TracedEvent> events_;
+  ClickTrail trail_;
 };
 
 }  // namespace quendle

@@ -137,5 +137,16 @@ TEST_F(TestingObjectTest, TheFileComesBeforeTheWindow) {
   EXPECT_EQ(File("general.txt"), "one\r\n");
 }
 
+TEST_F(TestingObjectTest, AMirrorShowsWhatTheFileTakes) {
+  log.Initialize("general", "general.txt", nullptr, 10);
+  Debomb_Window mirror;
+  log.SetMirror(&mirror);
+  log.LogEvent("one", 1, "general");
+  log.LogEvent("two", 10, "general");
+  log.LogEvent("not accepted", 11, "general");
+  EXPECT_EQ(mirror.txt_diffuse, "two\r\none\r\n");
+  EXPECT_EQ(File("general.txt"), "one\r\ntwo\r\n") << "the file misses none";
+}
+
 }  // namespace
 }  // namespace quendle

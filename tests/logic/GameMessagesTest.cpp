@@ -66,10 +66,11 @@ TEST_F(GameMessages, AnOfferedToolIsAskedOfTheToolsScreenWhichAnswersUpward) {
   Send("cs_emptyroom1");
   ForgetTrace();
   Send("tool_bandaid");
-  ASSERT_GE(trace.messages.size(), 3u);
+  ASSERT_GE(trace.messages.size(), 4u);
   EXPECT_EQ(trace.messages[0], "GameLogic: tool_bandaid");
-  EXPECT_EQ(trace.messages[1], "GameLogic: tool_yes_bandaid");
-  EXPECT_EQ(trace.messages[2], "emptyroom1: toobj_bandaid_runscript_toolwon");
+  EXPECT_EQ(trace.messages[1], "tools: Addchild?_bandaid");
+  EXPECT_EQ(trace.messages[2], "GameLogic: tool_yes_bandaid");
+  EXPECT_EQ(trace.messages[3], "emptyroom1: toobj_bandaid_runscript_toolwon");
 }
 
 TEST_F(GameMessages, AWonToolRunsTheOfferingObjectsScriptAndHelpsOnce) {

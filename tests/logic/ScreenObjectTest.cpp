@@ -245,7 +245,8 @@ TEST_F(ScreenObjectTest, AMessageThatHoldsSubgameGoesUp) {
   ForgetTrace();
   Send("toscreen_currentscreen_showobj_subgamedoor");
   EXPECT_TRUE(Sent("GameLogic: showobj_subgamedoor"));
-  EXPECT_FALSE(Sent("floor1hall1: showobj_subgamedoor"));
+  Send("toscreen_currentscreen_hideobj_dogdoor_subgame");
+  EXPECT_TRUE(Child(logic->CurrentScreen(), "dogdoor")->Visible()) << "the screen leaves it alone";
 }
 
 TEST_F(ScreenObjectTest, AnAdditionComesBeforeEverythingElse) {
@@ -291,7 +292,7 @@ TEST_F(MenuObjectTest, AMenuNeverHasChildren) {
 TEST_F(MenuObjectTest, AScoreEndsInTheMenuAndDoesNotClimb) {
   ForgetTrace();
   menu->Send("xScoreValue_5");
-  EXPECT_TRUE(trace.messages.empty());
+  EXPECT_THAT(trace.messages, ElementsAre("scores: xScoreValue_5"));
 }
 
 TEST_F(MenuObjectTest, OtherMessagesAreThoseOfAnyObject) {
@@ -300,6 +301,39 @@ TEST_F(MenuObjectTest, OtherMessagesAreThoseOfAnyObject) {
   ForgetTrace();
   menu->Send("playmusic");
   EXPECT_TRUE(Sent("GameLogic: playmusic"));
+}
+
+// --- What a screen decides itself is traced and named in faults like any other message.
+
+TEST_F(ScreenObjectTest, MessagesThatAScreenDecidesItselfAreTraced) {
+  struct Case {
+    const char* message;
+    const char* line;
+  };
+  for (const Case& c : {Case{"toscreen_tools_inctoolcounter", "tools: inctoolcounter"},
+                        Case{"toscreen_tools_dectoolcounter", "tools: dectoolcounter"},
+                        Case{"toscreen_tools_removechildren", "tools: removechildren"},
+                        Case{"toscreen_tools_removeallchildren", "tools: removeallchildren"},
+                        Case{"toscreen_tools_addchild?_bandaid", "tools: addchild?_bandaid"},
+                        Case{"toobj_start_changestate_better1", "start: changestate_better1"}}) {
+    ForgetTrace();
+    Send(c.message);
+    EXPECT_TRUE(Sent(c.line)) << c.line;
+  }
+}
+
+TEST_F(ScreenObjectTest, AMessageOnToolsPassesTheScreenInTheTrace) {
+  bool unused = false;
+  logic->CurrentScreen()->HandleMessage("tool_toomany", nullptr, false, unused);
+  EXPECT_THAT(trace.messages, ElementsAre("introscreen: tool_toomany", "GameLogic: tool_toomany",
+                                          testing::_, testing::_));
+}
+
+TEST_F(ScreenObjectTest, AFaultNamesTheScreenThatAMessageOnToolsPassed) {
+  bool unused = false;
+  EXPECT_THROW(logic->CurrentScreen()->HandleMessage("subgame_nosuchgame", nullptr, false, unused),
+               FatalError);
+  EXPECT_EQ(watch.depth.FailedObject(), "introscreen");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "personalize/FaceCut.h"
 #include "personalize/WizardBench.h"
 #include "support/Fatal.h"
 
@@ -68,6 +69,12 @@ TEST_F(frmEditDoctorCursorTest, TheFaceIsCutOffByTheEdgesOfTheCanvas) {
   EXPECT_TRUE(Canvas() == ExpectedDoctor(30, 19));
 }
 
+TEST_F(frmEditDoctorCursorTest, OnlySixteenBitsLimitTheFace) {
+  EXPECT_EQ(MovedFace(32766, 1), 32767);
+  EXPECT_EQ(MovedFace(32767, 1), 32767);
+  EXPECT_EQ(MovedFace(-32768, -1), -32768);
+}
+
 TEST_F(frmEditDoctorCursorTest, NextSavesTheDoctorAndTellsThatAllIsDone) {
   ToEditor(kOutline);
   PressPicture(17);
@@ -79,6 +86,7 @@ TEST_F(frmEditDoctorCursorTest, NextSavesTheDoctorAndTellsThatAllIsDone) {
 TEST_F(frmEditDoctorCursorTest, PreviousGoesBackToAFreshOutlineAndEachStartCentresTheFace) {
   ToEditor(kOutline);
   PressPicture(17);
+  PressPicture(15);
   PressPicture(1);
   EXPECT_EQ(InView(), "frmPartitionPicture");
   EXPECT_EQ(Lines(), 0);

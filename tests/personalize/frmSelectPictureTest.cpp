@@ -34,6 +34,8 @@ TEST_F(frmSelectPictureTest, CancellingKeepsTheLastPreview) {
   const SharedPicture preview = At("Image1").image;
   Choose("cancel");
   EXPECT_EQ(At("Image1").image, preview);
+  EXPECT_EQ(loader.asked.size(), 1u);
+  EXPECT_EQ(boxes.Shown().size(), 2u) << "the two choosers alone";
   PressPicture(3);
   EXPECT_EQ(loader.asked.back(), "/photos/child.jpg");
   EXPECT_EQ(InView(), "frmPartitionPicture");

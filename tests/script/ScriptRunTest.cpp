@@ -185,5 +185,36 @@ TEST(Statements, AMissingArgumentIsFatalAndNamesTheLine) {
             "Info\\s.txt:7: the statement \"change\" needs a second word");
 }
 
+// Notes the branches that a script takes.
+class NotedBranches : public BranchListener {
+ public:
+  void Chosen(const Command* condition, bool matched) override {
+    lines.push_back(!matched               ? "none"
+                    : condition == nullptr ? "else"
+                                           : std::to_string(condition->Place().line));
+  }
+  Lines lines;
+};
+
+TEST(ScriptRun, AListenerHearsWhichBranchIsTaken) {
+  ScriptState script = Parsed(std::string(kLadder));
+  NotedTarget target;
+  ActionTable table;
+  NotedBranches branches;
+  for (const char* text : {"handclick", "handover", "neither", "handclick"}) {
+    script.Execute(ScriptVariables(table.Get(text), &branches), target);
+  }
+  EXPECT_EQ(branches.lines, (Lines{"3", "5", "else", "3"})) << "also where it is remembered";
+}
+
+TEST(ScriptRun, AListenerHearsThatNoBranchMatches) {
+  ScriptState script = Parsed("begin\nif action = a\nx\nendif\nend\n");
+  NotedTarget target;
+  NotedBranches branches;
+  const ActionText other("b");
+  script.Execute(ScriptVariables(other, &branches), target);
+  EXPECT_EQ(branches.lines, (Lines{"none"}));
+}
+
 }  // namespace
 }  // namespace quendle

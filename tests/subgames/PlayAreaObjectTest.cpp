@@ -292,8 +292,11 @@ TEST(PlayAreaSelection, ASelectionWithADashResetsItsCellAtTheNextOne) {
 TEST(PlayAreaSelection, AnAcceptedCellLeavesTheFieldButStaysInTheBlinkersList) {
   BlinkerBench bench;
   bench.TurnOnGame();
+  ObjectRef cell = *bench.area->Children().Find("cell3");
+  EXPECT_TRUE(cell->ObjectOn());
   bench.area->Send("selectcell3-a");
   bench.area->Send("acceptedcell");
+  EXPECT_FALSE(cell->ObjectOn());
   EXPECT_FALSE(Has(bench.CellNames(), "cell3"));
   EXPECT_EQ(bench.Counter("m_colCells"), 32);
   EXPECT_EQ(bench.TextField(*bench.area, "m_strSelected"), "");

@@ -415,6 +415,31 @@ TEST_F(ShooterGame, ACellSwitchesItsState) {
   EXPECT_EQ(enemy.CurrentState(), "default");
 }
 
+TEST_F(ShooterGame, TurningOnACellAnewForgetsItsSwitchAndItsHit) {
+  bench.TurnOnGame();
+  auto& enemy = bench.CellAs<CellObject_Shooter>("cell21");
+  enemy.SwitchState();
+  enemy.SetHitRecently(4);
+  enemy.TurnOn(800, 600);
+  EXPECT_EQ(enemy.CellState(), 0);
+  EXPECT_EQ(enemy.HitRecently(), 0);
+}
+
+TEST_F(ShooterGame, TheDirectivesOfACellHaveNoEffect) {
+  auto cell = std::make_shared<CellObject_Shooter>(bench.world);
+  LoadArguments arguments;
+  arguments.name = "enemy";
+  arguments.data_file = "\\info\\enemy.txt";
+  arguments.depth = "0";
+  arguments.child_list = "nothing";
+  arguments.outer = cell;
+  arguments.directives = "state_bad visible_off xpos_70";
+  cell->LoadObject(arguments);
+  EXPECT_EQ(cell->CurrentState(), "default");
+  EXPECT_TRUE(cell->Visible());
+  EXPECT_EQ(cell->xpos(), 0);
+}
+
 TEST_F(ShooterGame, AShotThatIsNotDestroyedAfterAllStillHasTwoTicksToLive) {
   bench.TurnOnGame();
   Shot(1).SetGettingDestroyed(false);
@@ -486,6 +511,10 @@ TEST_F(ShooterGame, AnEnemyShotStillFliesAtTheFoot) {
   QuietTick();
   EXPECT_EQ(Shot(1).ypos(), 612) << "it moved on from 600";
   EXPECT_FALSE(Shot(1).Visible());
+  Area().EnemyFire(700, 589);
+  Ticks(2);
+  EXPECT_EQ(Shot(1).ypos(), 601);
+  EXPECT_FALSE(Shot(1).Visible()) << "one pixel further it is gone";
 }
 
 TEST_F(ShooterGame, AShotThatHasDiedIsWholeAgainWhenItIsFired) {

@@ -36,6 +36,39 @@ TEST(DrivePlay, AMoveLightsTheDoorUpAndTheEventsAreTraced) {
   EXPECT_TRUE(bench.Do("events")["events"].empty());
 }
 
+TEST(DrivePlay, WhatLiesUnderAPointIsTold) {
+  GameBench bench;
+  const Json under = bench.Do("under 400 460")["under"];
+  ASSERT_FALSE(under.empty());
+  EXPECT_EQ(under[0]["path"], "introscreen/startbutton");
+  EXPECT_EQ(under[0]["hit"], true);
+  EXPECT_EQ(bench.Do("object current/startbutton")["object"]["state"], "default")
+      << "looking is no move";
+  EXPECT_THAT(bench.Refused("under 800 0"), HasSubstr("800"));
+}
+
+TEST(DrivePlay, TheTrailOfAClickIsToldOnceItIsTraced) {
+  GameBench bench;
+  EXPECT_THAT(bench.Refused("trail"), HasSubstr("trace on"));
+  bench.Do("trace on");
+  bench.Do("click 400 460");
+  const Json trail = bench.Do("trail");
+  EXPECT_EQ(trail["click"], "400,460");
+  EXPECT_EQ(trail["pointer"], "hand");
+  std::vector<std::string> kinds;
+  for (const Json& step : trail["steps"]) kinds.push_back(step["kind"]);
+  EXPECT_THAT(kinds, testing::IsSupersetOf({"hit", "script", "branch", "statement", "message"}));
+  for (const Json& event : bench.Do("events")["events"]) {
+    EXPECT_NE(event["kind"], "hit") << "hits and branches are the trail's";
+    EXPECT_NE(event["kind"], "branch");
+  }
+}
+
+TEST(DrivePlay, WithoutCaptionsNothingIsShown) {
+  GameBench bench;
+  EXPECT_EQ(bench.Do("caption")["caption"], "");
+}
+
 TEST(DrivePlay, ATickTellsWhatFiredAndWhatWasDropped) {
   GameBench bench;
   Json answer = bench.Do("tick 1000");

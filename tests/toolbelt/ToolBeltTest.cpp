@@ -56,12 +56,24 @@ TEST(ToolBelt, EveryCommandTellsAnExampleAndItsExitCodes) {
     } else if (below_a_group && line[2] != ' ') {
       const std::string name = line.substr(2, line.find(' ', 2) - 2);
       const std::string help = HelpOf({name});
-      EXPECT_THAT(help, testing::ContainsRegex("Examples?:\n  quendle " + name + "[ \\n]")) << name;
+      EXPECT_THAT(help, testing::ContainsRegex("Examples?:\n  quendle " + name + "[ \n]")) << name;
       EXPECT_THAT(help, testing::ContainsRegex("Exit code:\n  0  .+\n  1  .+\n  2  ")) << name;
       ++commands;
     }
   }
   EXPECT_GE(commands, 5);
+}
+
+TEST(ToolBelt, AManPageIsAskedForByACommandsName) {
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(RunToolBelt({"--man"}), 0);
+  EXPECT_EQ(RunToolBelt({"--man", "render"}), 0);
+  const std::string pages = testing::internal::GetCapturedStdout();
+  EXPECT_THAT(pages, testing::HasSubstr(".TH QUENDLE 1\n"));
+  EXPECT_THAT(pages, testing::HasSubstr(".TH QUENDLE-RENDER 1\n"));
+  EXPECT_THAT(pages, testing::HasSubstr("\\fB\\-\\-state\\fR \\fIOBJECT=STATE\\fR\n"));
+  EXPECT_EQ(RunToolBelt({"--man", "dance"}), 2);
+  EXPECT_EQ(RunToolBelt({"--man", "render", "dance"}), 2);
 }
 
 TEST(ToolBelt, TheHelpFitsATerminal) {

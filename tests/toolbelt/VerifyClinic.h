@@ -41,6 +41,12 @@ class VerifyClinic {
   void Remove(const std::string& path) {
     if (files_.erase(path) == 0) throw std::logic_error("no file " + path);
   }
+  std::vector<std::string> LinesOf(const std::string& path) {
+    std::istringstream text(Text(path));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);) lines.push_back(line);
+    return lines;
+  }
   // Replaces the first `from` in a file, which must be there.
   void Edit(const std::string& path, const std::string& from, const std::string& to) {
     std::string& text = Text(path);

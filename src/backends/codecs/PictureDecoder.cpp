@@ -21,6 +21,8 @@ constexpr const char* kOtherKind =
 constexpr const char* kDamaged =
     "This photograph is damaged and can't be used. Please choose another one.";
 constexpr std::int64_t kMillion = 1'000'000;
+// Decoders round the sides up to whole blocks before they count the points.
+constexpr std::int64_t kMostWithBlocks = kMostPicturePoints / 4 * 5;
 
 struct FreeCodec {
   void operator()(AVCodecContext* context) const { avcodec_free_context(&context); }
@@ -58,7 +60,7 @@ Codec OpenCodec(PictureKind kind) {
   const AVCodec* decoder = avcodec_find_decoder(CodecOf(kind));
   Codec codec(decoder == nullptr ? nullptr : avcodec_alloc_context3(decoder));
   if (codec == nullptr) return nullptr;
-  codec->max_pixels = kMostPicturePoints;
+  codec->max_pixels = kMostWithBlocks;
   codec->err_recognition = AV_EF_EXPLODE;
   codec->thread_count = 1;
   // The same pixels on every machine.

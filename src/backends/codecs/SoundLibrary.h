@@ -16,9 +16,10 @@ class FileSystem;
 // goes from one sound to another and back costs nothing.
 class SoundLibrary {
  public:
-  // `files` must outlive the library; `kept_bytes` bounds what is kept of sounds nobody plays.
+  // `files` must outlive the library; `kept_bytes` bounds what is kept of sounds nobody plays:
+  // some twenty sentences.
   explicit SoundLibrary(FileSystem& files, SoundDecoder decoder = SoundDecoder(),
-                        std::size_t kept_bytes = std::size_t{16} << 20);
+                        std::size_t kept_bytes = std::size_t{4} << 20);
 
   // The sound of a file (full path, case ignored). Nothing when it is missing or damaged; that
   // makes a problem, once for each file.

@@ -26,6 +26,7 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
                                GameFolders folders)
     : folders_(std::move(folders)),
       tester_(options.tester),
+      wants_debug_(options.debug),
       clock_(tester_ ? static_cast<Clock&>(step_clock_) : real_clock_),
       loop_(tester_ ? DesktopEventLoop(step_clock_) : DesktopEventLoop(real_clock_)),
       seed_(FreshSeed()),
@@ -57,6 +58,7 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
   loop_.Add(window_);
   captions_.SetOn(options.captions.value_or(caption_setting_.Read()));
   window_->AddLayer(captions_);
+  window_->AddLayer(author_);
   window_->BeforeShow([this] { forms_.ShowFormInView(); });
 }
 
@@ -73,6 +75,13 @@ bool DesktopBackend::TellWhatIsMissing(const std::string& product) {
     return false;
   }
   return true;
+}
+
+void DesktopBackend::ShowBeside(const TextSource* text) {
+  beside_.reset();
+  if (text == nullptr) return;
+  beside_ = std::make_shared<DebugWindow>(text_, *text);
+  loop_.Add(beside_);
 }
 
 void DesktopBackend::Run() {

@@ -5,8 +5,10 @@
 #include <string>
 
 #include "backends/codecs/PictureDecoderLoader.h"
+#include "backends/desktop/AuthorLayer.h"
 #include "backends/desktop/CaptionLayer.h"
 #include "backends/desktop/CaptionSetting.h"
+#include "backends/desktop/DebugWindow.h"
 #include "backends/desktop/DesktopBoxes.h"
 #include "backends/desktop/DesktopClock.h"
 #include "backends/desktop/DesktopEventLoop.h"
@@ -55,6 +57,12 @@ class DesktopBackend {
   bool TellWhatIsMissing(const std::string& product);
   // What is said in the game, for captions.
   void SetCaptionSource(CaptionSource* source) { captions_.SetSource(source); }
+  // True if the player asked to see what authors see.
+  bool WantsDebug() const { return wants_debug_; }
+  // What F12 shows over the frame; null for nothing.
+  void SetAuthorSource(AuthorSource* source) { author_.SetSource(source); }
+  // Opens a window beside the game that shows the text; null closes it. The text outlives it.
+  void ShowBeside(const TextSource* text);
   // Runs the event loop for ever: ProcessEnds and FatalError leave through it.
   void Run();
   // Shows a fatal error; the game window may stand or not.
@@ -64,6 +72,7 @@ class DesktopBackend {
   void Beep();
 
   GameFolders folders_;
+  bool wants_debug_;
   SdlLibrary library_;
   const std::optional<std::int16_t> tester_;
   DesktopClock real_clock_;
@@ -85,7 +94,9 @@ class DesktopBackend {
   DesktopFormHost forms_;
   CaptionSetting caption_setting_;
   CaptionLayer captions_;
+  AuthorLayer author_{text_};
   std::shared_ptr<DesktopWindow> window_;
+  std::shared_ptr<DebugWindow> beside_;
   PictureDecoderLoader picture_loader_;
   BitmapPictureSaver picture_saver_;
   DesktopBoxes boxes_;

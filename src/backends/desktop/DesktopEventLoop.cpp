@@ -177,7 +177,7 @@ std::vector<std::shared_ptr<SdlEventTarget>> DesktopEventLoop::Targets() {
 }
 
 bool DesktopEventLoop::TakesInput(const SdlEventTarget& target) const {
-  return modal_.empty() || modal_.back() == &target;
+  return modal_.empty() || modal_.back() == &target || target.StandsBeside();
 }
 
 }  // namespace quendle

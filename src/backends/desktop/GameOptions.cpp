@@ -33,6 +33,9 @@ GameOptions GameOptions::Parse(const std::string& program, int argc, const char*
           ->default_str(kTesterInterval)
           ->check(CLI::Range(1, 32767))
           ->option_text("[MS]");
+  app.add_flag("--debug", options.debug,
+               "For authors: play in a window, with the event log in a second one; F12 shows what "
+               "lies under the pointer");
   app.add_flag("--version", options.version,
                "Tell build, libraries, drawing backend and folders, and end");
   try {
@@ -42,7 +45,7 @@ GameOptions GameOptions::Parse(const std::string& program, int argc, const char*
   }
   if (captions_word->count() > 0) options.captions = captions;
   if (tester->count() > 0) options.tester = interval;
-  options.window.full_screen = !in_window;
+  options.window.full_screen = !in_window && !options.debug;
   options.window.scale = modes.at(scale);
   return options;
 }

@@ -14,6 +14,7 @@ struct GameOptions {
   std::string content;  // folder of the content; empty: where content is looked for
   std::string user;     // folder that takes what the game writes; empty: the content, if it can
   std::optional<bool> captions;  // show captions in this run; nothing: as last chosen in the game
+  bool debug = false;            // the event log in a window of its own, and F12 for authors
   bool version = false;
   std::optional<std::int16_t> tester;  // interval of the recorder in milliseconds; none: it is off
 

@@ -12,6 +12,8 @@ class SdlEventTarget {
   virtual ~SdlEventTarget() = default;
   // Number of the library's window; 0 while there is none.
   virtual std::uint32_t WindowId() const = 0;
+  // A window beside the game takes its input while a box stands, too.
+  virtual bool StandsBeside() const { return false; }
   // Input: keys, pointer, close. Withheld while a box stands over this window.
   virtual void HandleInput(const SDL_Event& event) = 0;
   // What a window needs at any time: exposure, size, focus, lost pictures.

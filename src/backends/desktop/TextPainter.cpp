@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/Text.h"
 
@@ -74,6 +75,25 @@ std::vector<std::string> TextPainter::Wrap(std::string_view text, const TextStyl
     wrapped.push_back(current);
   }
   return wrapped;
+}
+
+std::vector<std::string> TextPainter::WrapAnywhere(std::string_view text, const TextStyle& style,
+                                                   double width, double scale) {
+  std::vector<std::string> pieces;
+  for (std::string& line : Wrap(text, style, width, scale)) {
+    while (line.size() > 1 && WidthOf(line, style, scale) > width) {
+      // The longest beginning that fits, at least one letter.
+      std::size_t fits = 1;
+      for (std::size_t beyond = line.size(); beyond - fits > 1;) {
+        const std::size_t middle = (fits + beyond) / 2;
+        (WidthOf(line.substr(0, middle), style, scale) > width ? beyond : fits) = middle;
+      }
+      pieces.push_back(line.substr(0, fits));
+      line.erase(0, fits);
+    }
+    pieces.push_back(std::move(line));
+  }
+  return pieces;
 }
 
 void TextPainter::Draw(Canvas& canvas, std::string_view text, const TextStyle& style, double x,

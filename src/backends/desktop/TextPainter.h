@@ -38,6 +38,9 @@ class TextPainter {
   // The text cut into lines of at most `width` at blanks; line breaks are kept.
   std::vector<std::string> Wrap(std::string_view text, const TextStyle& style, double width,
                                 double scale);
+  // The same, and a word wider than that is cut.
+  std::vector<std::string> WrapAnywhere(std::string_view text, const TextStyle& style, double width,
+                                        double scale);
   // Draws one line with its top left corner at (x, y).
   void Draw(Canvas& canvas, std::string_view text, const TextStyle& style, double x, double y);
   // Draws one line centred on x and y.

@@ -1,3 +1,4 @@
+#include <iostream>
 #include <memory>
 
 #include "toolbelt/Replay.h"
@@ -22,7 +23,7 @@ void AddReplay(CLI::App& belt, int& exit_code) {
                          {{0, "the same as recorded"},
                           {1, "different: the first second, object and field are told"},
                           {3, "the game ended fatally"}}));
-  command->callback([settings, &exit_code] { exit_code = RunReplay(*settings); });
+  command->callback([settings, &exit_code] { exit_code = RunReplay(*settings, std::cout); });
 }
 
 }  // namespace quendle

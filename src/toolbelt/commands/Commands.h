@@ -16,6 +16,7 @@ inline constexpr const char* kMeasuring = "Measuring";
 
 void AddDrive(CLI::App& belt, int& exit_code);
 void AddWalk(CLI::App& belt, int& exit_code);
+void AddRandom(CLI::App& belt, int& exit_code);
 void AddTree(CLI::App& belt, int& exit_code);
 void AddReplay(CLI::App& belt, int& exit_code);
 void AddNew(CLI::App& belt, int& exit_code);

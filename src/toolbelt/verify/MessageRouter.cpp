@@ -66,6 +66,13 @@ std::vector<const ModelObject*> MessageRouter::ChildrenOf(const ModelObject& obj
 }
 
 std::vector<ModelInstance> MessageRouter::Instances(const ModelObject& object) const {
+  return InstancesBelow(object, 0);
+}
+
+std::vector<ModelInstance> MessageRouter::InstancesBelow(const ModelObject& object,
+                                                         std::size_t depth) const {
+  // Messages may add global objects to each other.
+  if (depth > kDeepestInstance) return {{&object}};
   std::vector<const ModelObject*> parents(object.parents.begin(), object.parents.end());
   for (const auto& [holder, added] : added_) {
     if (added == &object) parents.push_back(holder);
@@ -79,8 +86,8 @@ std::vector<ModelInstance> MessageRouter::Instances(const ModelObject& object) c
   }
   std::vector<ModelInstance> instances;
   for (const ModelObject* parent : parents) {
-    for (const ModelInstance& above : Instances(*parent)) {
-      if (above.size() > kDeepestInstance || instances.size() >= kMostInstances) return instances;
+    for (const ModelInstance& above : InstancesBelow(*parent, depth + 1)) {
+      if (instances.size() >= kMostInstances) return instances;
       instances.push_back(Below(above, &object));
     }
   }
@@ -251,6 +258,9 @@ Verdict MessageRouter::EnterState(const ModelObject& object, Call& call, bool pa
 Verdict MessageRouter::AddGlobal(const ModelObject& object, Call& call) {
   if (!call.Needs(2)) return call.Short();
   if (const ModelObject* global = model_.Global(call.Word(2))) {
+    if (global == &object) {
+      return call.Wrong(Check::kCircle, "\"" + object.name + "\" can't become its own child");
+    }
     call.effects.added.insert({&object, global});
     return {};
   }

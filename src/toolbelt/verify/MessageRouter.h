@@ -48,6 +48,7 @@ class MessageRouter {
 
  private:
   struct Call;
+  std::vector<ModelInstance> InstancesBelow(const ModelObject& object, std::size_t depth) const;
   Verdict ToParent(const ModelInstance& sender, Call& call);
   Verdict ToObject(const ModelInstance& receiver, Call& call);
   Verdict ToScreen(const ModelInstance& receiver, Call& call);

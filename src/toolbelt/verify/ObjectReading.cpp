@@ -58,23 +58,8 @@ ModelObjectRef TreeReader::ReadObject(const NamedFile& file, ModelRole role, Mod
   if (parent != nullptr) object->parents.push_back(parent);
   slot = object;
   model_.objects.push_back(object);
+  CheckHeader(*object, read);
   const std::string label = ModelPath(*object);
-  gate_.CheckEnds(read.type, read.type_place, label);
-  gate_.CheckEnds(read.name, object->name_place, label);
-  if (factory_.TypeWords().empty() ||
-      std::ranges::none_of(factory_.TypeWords(),
-                           [&](const auto& w) { return EqualsNoCase(w, read.type); })) {
-    findings_.Add(
-        Check::kUnknownType, label, read.type_place,
-        "\"" + read.type + "\" is no type word" + DidYouMean(read.type, factory_.TypeWords()));
-  }
-  if (!object->IsPlayArea()) {
-    for (const std::string& word : SplitTokens(read.directives, ' ')) {
-      if (IsDirective(word)) continue;
-      findings_.Add(Check::kOddDirective, label, read.directives_place,
-                    "\"" + word + "\" is no directive");
-    }
-  }
 
   open_.push_back(key);
   const std::string folder = RelativeDirectoryOf(file.resolved, "");
@@ -94,6 +79,24 @@ ModelObjectRef TreeReader::ReadObject(const NamedFile& file, ModelRole role, Mod
   }
   open_.pop_back();
   return object;
+}
+
+void TreeReader::CheckHeader(const ModelObject& object, const ObjectFile& read) {
+  const std::string label = ModelPath(object);
+  gate_.CheckEnds(read.type, read.type_place, label);
+  gate_.CheckEnds(read.name, object.name_place, label);
+  const std::vector<std::string> types = factory_.TypeWords();
+  if (std::ranges::none_of(types, [&](const auto& t) { return EqualsNoCase(t, read.type); })) {
+    findings_.Add(Check::kUnknownType, label, read.type_place,
+                  "\"" + read.type + "\" is no type word" + DidYouMean(read.type, types));
+  }
+  if (!object.IsPlayArea()) {
+    for (const std::string& word : SplitTokens(read.directives, ' ')) {
+      if (IsDirective(word)) continue;
+      findings_.Add(Check::kOddDirective, label, read.directives_place,
+                    "\"" + word + "\" is no directive");
+    }
+  }
 }
 
 NamedFile TreeReader::InFile(const ModelObject& object, const std::string& stored,

@@ -36,6 +36,8 @@ class TreeReader {
 
   // An object file; null when it can't be read.
   ModelObjectRef ReadObject(const NamedFile& file, ModelRole role, ModelObject* parent);
+  // Type word, name and directives of an object file.
+  void CheckHeader(const ModelObject& object, const ObjectFile& read);
   void ReadParts(ModelObject& object, const std::string& data_path, const FilePlace& place);
   void ReadStates(ModelObject& object, const NamedFile& file);
   void ReadAnimations(ModelObject& object, const NamedFile& file);

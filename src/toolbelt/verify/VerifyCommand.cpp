@@ -1,11 +1,9 @@
 #include "toolbelt/verify/VerifyCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
@@ -65,44 +63,6 @@ int RunVerify(const VerifySettings& settings) {
   const Findings findings = VerifyContent(tree, side_list ? &*side_list : nullptr, progress);
   Print(settings, findings, tree.listing);
   return Count(findings).Counting() == 0 ? 0 : 1;
-}
-
-void AddVerify(CLI::App& belt, int& exit_code) {
-  CLI::App* tool = belt.add_subcommand("verify", "Checks a whole content tree with nothing played");
-  auto settings = std::make_shared<VerifySettings>();
-  auto json = std::make_shared<bool>(false);
-  auto sarif = std::make_shared<bool>(false);
-  auto codes = std::make_shared<std::string>();
-  CLI::Option* folder =
-      tool->add_option("DIR", settings->folder, "The content tree")->check(CLI::ExistingDirectory);
-  tool->add_option("--side-list", settings->side_list,
-                   "Findings that are meant, a line each: CODE PATH REASON. Without it, "
-                   "verify.txt in the content tree")
-      ->check(CLI::ExistingFile);
-  CLI::Option* as_json = tool->add_flag("--json", *json, "Print one JSON object");
-  tool->add_flag("--sarif", *sarif, "Print a SARIF 2.1.0 log, for build servers")
-      ->excludes(as_json);
-  CLI::Option* list = tool->add_option("--codes", *codes, "List all checks, and do nothing else")
-                          ->expected(0, 1)
-                          ->default_str("text")
-                          ->check(CLI::IsMember({"text", "markdown"}));
-  tool->footer(
-      "Findings are printed as FILE:LINE: severity CODE: text, grouped by object.\n"
-      "Exit code 0 when there are none, 1 when there are some, 2 for a usage error.");
-  tool->callback([=, &exit_code] {
-    if (list->count() > 0) {
-      if (*codes == "markdown") {
-        std::cout << CodesAsMarkdown();
-      } else {
-        PrintCodes(std::cout);
-      }
-      return;
-    }
-    if (folder->count() == 0) throw CLI::RequiredError("DIR");
-    using enum VerifySettings::Format;
-    settings->format = *json ? kJson : *sarif ? kSarif : kText;
-    exit_code = RunVerify(*settings);
-  });
 }
 
 }  // namespace quendle

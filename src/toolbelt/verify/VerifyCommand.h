@@ -2,10 +2,6 @@
 
 #include <string>
 
-namespace CLI {
-class App;
-}
-
 namespace quendle {
 
 struct VerifySettings {
@@ -18,8 +14,5 @@ struct VerifySettings {
 // `quendle verify`: prints the findings. Gives the exit code: 0 when nothing counts, else 1. Throws
 // std::runtime_error when a side list that was named can't be read.
 int RunVerify(const VerifySettings& settings);
-
-// Adds the command to the tool belt.
-void AddVerify(CLI::App& belt, int& exit_code);
 
 }  // namespace quendle

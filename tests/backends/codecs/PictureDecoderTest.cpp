@@ -184,6 +184,27 @@ TEST(PictureDecoder, AJpegIsMadeSmallerAndThenTurned) {
   EXPECT_TRUE(DecodePicture(Held(jpeg, 6), {500, 450}).picture == Upright(small, 6));
 }
 
+// A grey JPEG as large as asked for: each block takes two bits.
+std::string LargeGreyJpeg(int width, int height) {
+  std::string jpeg = Bytes({0xFF, 0xD8, 0xFF, 0xDB, 0, 67, 0}) + std::string(64, '\1');
+  jpeg += Bytes(
+      {0xFF, 0xC0, 0, 11, 8, height >> 8, height & 255, width >> 8, width & 255, 1, 1, 0x11, 0});
+  // One code each: "no change" of the brightness, "end of block" for the rest.
+  for (int table : {0x00, 0x10}) {
+    jpeg += Bytes({0xFF, 0xC4, 0, 20, table, 1}) + std::string(15, '\0') + Bytes({0});
+  }
+  jpeg += Bytes({0xFF, 0xDA, 0, 8, 1, 1, 0, 0, 63, 0});
+  const int blocks = ((width + 7) / 8) * ((height + 7) / 8);
+  return jpeg + std::string(static_cast<std::size_t>(blocks / 4 + 1), '\0') + Bytes({0xFF, 0xD9});
+}
+
+TEST(PictureDecoder, APhotographJustBelowFiftyMillionPointsIsDecoded) {
+  const DecodedPicture decoded = DecodePicture(LargeGreyJpeg(8600, 5800), {2184, 1200});
+  ASSERT_EQ(decoded.problem, "");
+  EXPECT_EQ(decoded.picture.size, (Size{1075, 725}));
+  EXPECT_EQ(decoded.picture.At(1074, 724), 0x808080u);
+}
+
 TEST(PictureDecoder, MoreThanFiftyMillionPointsAreRefusedBeforeAnythingIsDecoded) {
   const std::string jpeg =
       Bytes({0xFF, 0xD8, 0xFF, 0xC0, 0, 17,   8, 0x27, 0x10, 0x27, 0x10, 3,    1,   0x22,

@@ -30,6 +30,15 @@ TEST_F(BoxFormTest, EscapeAndClosingAreTheLastButton) {
   EXPECT_EQ(closed.Answer(), 1);
 }
 
+TEST_F(BoxFormTest, AClosedBoxIsToldFromOneThatWasAnswered) {
+  BoxForm box = Input();
+  box.Key(FormKey::kEscape);
+  EXPECT_FALSE(box.Closed());
+  BoxForm closed = Input();
+  closed.QueryClose();
+  EXPECT_TRUE(closed.Closed());
+}
+
 TEST_F(BoxFormTest, TabGoesRoundTheButtons) {
   BoxForm box = Question();
   box.Key(FormKey::kTab);

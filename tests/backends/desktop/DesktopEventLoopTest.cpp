@@ -1,8 +1,13 @@
 #include "backends/desktop/DesktopEventLoop.h"
 
+#include <SDL.h>
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "backends/desktop/DesktopClock.h"
+#include "backends/desktop/StepClock.h"
 #include "base/ProcessEnds.h"
 
 namespace quendle {
@@ -40,6 +45,68 @@ TEST(DesktopEventLoop, TheEndOfTheProcessLeavesThroughRun) {
   DesktopEventLoop loop(clock);
   loop.Timers().SetTimer(Milliseconds(10), "end", [](int) { throw ProcessEnds{true}; });
   EXPECT_THROW(loop.Run([] { return false; }), ProcessEnds);
+}
+
+// A real clock that a test moves; it moves a little whenever it is asked, as real ones do.
+class MovedClock : public Clock {
+ public:
+  double TimeOfDay() override { return 3600.0625; }
+  Milliseconds Monotonic() override { return now_ += Milliseconds(1); }
+  void Pass(int milliseconds) { now_ += Milliseconds(milliseconds); }
+
+ private:
+  Milliseconds now_{1000};
+};
+
+TEST(StepClock, ItStandsStillUntilItIsMoved) {
+  MovedClock real;
+  StepClock clock(real);
+  real.Pass(100);
+  EXPECT_EQ(clock.Monotonic(), Milliseconds(0));
+  EXPECT_GE(clock.Reachable(), Milliseconds(100));
+  EXPECT_EQ(clock.Monotonic(), Milliseconds(0));
+  clock.AdvanceTo(Milliseconds(70));
+  EXPECT_EQ(clock.Monotonic(), Milliseconds(70));
+  EXPECT_DOUBLE_EQ(clock.TimeOfDay(), 3600.132);
+}
+
+TEST(StepClock, AMachineThatFallsFarBehindSlowsItDown) {
+  MovedClock real;
+  StepClock clock(real);
+  real.Pass(60000);
+  EXPECT_LE(clock.Reachable(), Milliseconds(260));
+  clock.AdvanceTo(clock.Reachable());
+  real.Pass(100);
+  EXPECT_LE(clock.Reachable(), Milliseconds(380));
+  EXPECT_GE(clock.Reachable(), Milliseconds(350));
+}
+
+TEST(DesktopEventLoop, OnAClockThatStepsEachTickComesExactlyWhenItIsDue) {
+  DesktopClock real;
+  StepClock clock(real);
+  DesktopEventLoop loop(clock);
+  std::vector<long> moments;
+  loop.Timers().SetTimer(Milliseconds(10), "quick", [&](int) {
+    moments.push_back(clock.Monotonic().count());
+    // Slower than its interval: it still loses no tick.
+    SDL_Delay(12);
+  });
+  loop.Run([&] { return moments.size() == 8; });
+  EXPECT_EQ(moments, (std::vector<long>{10, 20, 30, 40, 50, 60, 70, 80}));
+}
+
+TEST(DesktopEventLoop, OnAClockThatStepsNoInputComesBetweenTicksThatAreDueTogether) {
+  DesktopClock real;
+  StepClock clock(real);
+  DesktopEventLoop loop(clock);
+  std::string order;
+  loop.Timers().SetTimer(Milliseconds(10), "first", [&](int) { order += "1"; });
+  loop.Timers().SetTimer(Milliseconds(10), "second", [&](int) { order += "2"; });
+  loop.Run([&] {
+    order += "?";  // asked before input is looked for
+    return order.find('2') != std::string::npos;
+  });
+  EXPECT_NE(order.find("12"), std::string::npos);
 }
 
 TEST(DesktopClock, TheTimeOfDayLiesWithinOneDay) {

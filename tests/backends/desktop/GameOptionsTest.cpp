@@ -37,10 +37,23 @@ TEST(GameOptions, WordsAreTaken) {
   EXPECT_TRUE(parsed.options.version);
 }
 
+TEST(GameOptions, TheRecorderTakesAnIntervalOrItsOwn) {
+  EXPECT_FALSE(Parse({}).options.tester);
+  EXPECT_EQ(Parse({"--tester", "20"}).options.tester, 20);
+  EXPECT_EQ(Parse({"--tester"}).options.tester, 50);
+  EXPECT_EQ(Parse({"--tester", "--window"}).options.tester, 50);
+}
+
 TEST(GameOptions, CaptionsAreAsLastChosenUnlessAWordSaysOtherwise) {
   EXPECT_EQ(Parse({}).options.captions, std::nullopt);
   EXPECT_EQ(Parse({"--captions"}).options.captions, true);
   EXPECT_EQ(Parse({"--no-captions"}).options.captions, false);
+}
+
+TEST(GameOptions, DebuggingIsDoneInAWindow) {
+  EXPECT_FALSE(Parse({}).options.debug);
+  EXPECT_TRUE(Parse({"--debug"}).options.debug);
+  EXPECT_FALSE(Parse({"--debug"}).options.window.full_screen);
 }
 
 TEST(GameOptions, AnUnknownWordIsAUsageError) {
@@ -48,6 +61,8 @@ TEST(GameOptions, AnUnknownWordIsAUsageError) {
   EXPECT_EQ(Parse({"--nonsense"}).exit_code, 2);
   EXPECT_EQ(Parse({"--scale", "huge"}).exit_code, 2);
   EXPECT_EQ(Parse({"--content", "/no/such/folder"}).exit_code, 2);
+  EXPECT_EQ(Parse({"--tester", "0"}).exit_code, 2);
+  EXPECT_EQ(Parse({"--tester", "32768"}).exit_code, 2);
   EXPECT_NE(testing::internal::GetCapturedStderr(), "");
 }
 
