@@ -25,8 +25,8 @@ DiskFolders DiskFoldersOf(const GameFolders& folders) {
 DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& options,
                                GameFolders folders)
     : folders_(std::move(folders)),
-      tester_(options.tester),
       wants_debug_(options.debug),
+      tester_(options.tester),
       clock_(tester_ ? static_cast<Clock&>(step_clock_) : real_clock_),
       loop_(tester_ ? DesktopEventLoop(step_clock_) : DesktopEventLoop(real_clock_)),
       seed_(FreshSeed()),
