@@ -132,8 +132,6 @@ void GameObject::ResetSurgeryMachine() {
                false, unused);
 }
 
-std::string GameObject::GetRootState() {
-  return RootStateOf(CurrentState());
-}
+std::string GameObject::GetRootState() { return RootStateOf(CurrentState()); }
 
 }  // namespace quendle

@@ -36,8 +36,8 @@ struct DataFile {
 
 DataFile ReadDataFile(TextStream& stream);
 
-// Resolves a path that stands in one of an object's own files: the tokens of any stored path against
-// the folder of its data file, then "<RootObjectName>\\" or else "<ObjectName>", once.
+// Resolves a path that stands in one of an object's own files: the tokens of any stored path
+// against the folder of its data file, then "<RootObjectName>\" or else "<ObjectName>", once.
 std::string ResolveObjectPath(std::string_view directory, std::string_view object_name,
                               std::string_view path);
 
