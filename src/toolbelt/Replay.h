@@ -13,9 +13,9 @@ struct ReplaySettings {
 };
 
 // Plays a recorded session anew in virtual time, under the conditions of its sidecar, and compares
-// the state once a second. Tells on `out` the first difference, or that there is none. Gives the exit code:
-// 0 the same, 1 different, 3 when the game ended fatally. Throws FatalError or std::runtime_error
-// for files that can't be read.
+// the state once a second. Tells on `out` the first difference, or that there is none. Gives the
+// exit code: 0 the same, 1 different, 3 when the game ended fatally. Throws FatalError or
+// std::runtime_error for files that can't be read.
 int RunReplay(const ReplaySettings& settings, std::ostream& out);
 
 }  // namespace quendle
