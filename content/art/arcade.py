@@ -5,11 +5,12 @@ has to be hit fills its cell.
 """
 
 from animals import dog
-from cat import cat, cat_face, flea
+from cat import cat, flea
 from furniture import *
 from items import *
 from rabbit import rabbit
 from shapes import *
+from turtle import turtle, turtle_face
 
 VIOLET = "#b48ad6"
 TILE, PITCH, TILES_A_ROW = 126, 130, 3
@@ -160,7 +161,7 @@ def brick_room():
         for x in range(y // 60 % 2 * 50, 840, 100):
             out += stroke(f"M{x},{y}V{y + 60}", light(SKY, 0.7), 4)
     out += flat("M0,500H800V600H0Z", light(TEAL, 0.35)) + stroke("M0,500H800", OUTLINE, 4)
-    out += shadow(560, 500, 190, 10) + move(cat("sad", "muddy"), 430, 148, size=0.9)
+    out += shadow(560, 500, 190, 10) + move(turtle("sad", "muddy"), 430, 148, size=0.9)
     out += solid("M380,356H742Q752,356 748,376L730,452Q722,486 690,486H432Q400,486 392,452L372,376Q368,356 380,356Z", WHITE, 9)
     out += stroke("M372,376H748", shade(WHITE, 0.2), 4)
     for x, y, r in ((404, 350, 22), (440, 342, 26), (484, 350, 22), (640, 350, 24), (684, 344, 27), (724, 352, 20), (600, 354, 18), (528, 354, 18)):
@@ -247,7 +248,7 @@ def brick_hint():
     out = move(mud, 46, 34) + move(mud, 98, 34) + play_bubble(166, 118, 20) + stroke("M156,142L146,168M140,104L124,94", OUTLINE, 3)
     out += move(solid(box(0, 0, 140, 34, 12), PINK, 5, glint=(36, 8, 22, 3)) + heart(70, 17, 7), 90, 190)
     out += arrow(58, 206, 0.75, turn=180, fill=YELLOW) + arrow(264, 206, 0.75, fill=YELLOW) + hand(112, 244, 1.3)
-    return out + arrow(262, 92, 0.9, fill=YELLOW) + cat_face(346, 98, 1.3) + sparkle(392, 46, 13)
+    return out + arrow(262, 92, 0.9, fill=YELLOW) + turtle_face(346, 98, 1.3) + sparkle(392, 46, 13)
 
 
 def bobble_hint():

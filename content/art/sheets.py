@@ -14,6 +14,7 @@ from items import *
 from people import child_face, doctor, doctor_eyes, doctor_suit
 from rabbit import rabbit, rabbit_face
 from shapes import *
+from turtle import turtle, turtle_face
 
 
 class Sheet:
@@ -104,7 +105,6 @@ def hall():
     out = wall(PEACH, "dots")
     out += bunting(10, 436, 14, (CORAL, YELLOW, TEAL, GREEN, PINK))
     out += stroke("M496,-4V62M568,-4V62", OUTLINE, 9) + stroke("M496,-4V62M568,-4V62", DARKWOOD, 3)
-    out += clock(716, 76, 40)
     out += rug(300, 484, 250, 17, CORAL, YELLOW)
     for x in (84, 229, 374):
         out += shadow(x, 461, 66, 5)
@@ -151,15 +151,60 @@ def elevator():
     return screen(out + shadow(700, 482, 66, 8))
 
 
-def lift_button(floor):
-    """A round button with the patients of its floor, and as many dots as the floor has for a number."""
-    sheet = Sheet(176, 176, 2)
-    faces = dog_face(88, 74, 1.15) if floor == 1 else cat_face(58, 78, 0.95) + rabbit_face(116, 80, 0.95)
-    dots = "".join(solid(ellipse(88 + (i - (floor - 1) / 2) * 26, 128, 9), WHITE, 0, 3) for i in range(floor))
-    piece = cog_button(88, 88, 80, (YELLOW, GREEN)[floor - 1], faces + dots)
+def lift_button(stop):
+    """A round button with the patients that live at this stop of the elevator, and the stop's number in dots."""
+    sheet = Sheet(132, 132, 2)
+    faces = (dog_face(66, 54, 0.95), cat_face(44, 57, 0.72) + rabbit_face(88, 58, 0.72), turtle_face(66, 54, 0.95))[stop - 1]
+    dots = "".join(solid(ellipse(66 + (i - (stop - 1) / 2) * 20, 98, 7), WHITE, 0, 3) for i in range(stop))
+    piece = cog_button(66, 64, 57, (YELLOW, GREEN, PINK)[stop - 1], faces + dots)
     sheet.add("rest", piece)
     sheet.add("glow", glowing(piece))
     return sheet
+
+
+def floor2hall():
+    """The hall upstairs: mint, with a view of the pond from which its patient came."""
+    out = wall(MINT, "hearts")
+    out += bunting(120, 470, 18, (CORAL, YELLOW, PINK, TEAL, ORANGE))
+    pond = flat(ellipse(370, 214, 70, 18), TEAL) + flat(ellipse(352, 210, 16, 4), light(TEAL, 0.5)) + flat(ellipse(398, 216, 10, 3), light(TEAL, 0.5))
+    out += window(316, 92, 124, 112, pond) + curtains(316, 92, 124, 112, YELLOW)
+    out += sunbeam(((316, 214), (440, 214), (520, 458), (330, 458)))
+    out += poster(50, 96, 74, 86, cross_sign(87, 142, 20), WHITE) + poster(186, 92, 86, 96, flower_card(229, 140), CREAM)
+    out += lamp(716, 40)
+    out += rug(300, 484, 250, 17, PINK, CREAM)
+    for x in (84, 229):
+        out += shadow(x, 461, 66, 5)
+    out += shadow(340, 482, 34, 6) + plant(340, 484, 0.95)
+    out += bench(408, 408, 166) + shadow(700, 482, 66, 8)
+    return screen(out)
+
+
+def flower_card(cx, cy):
+    return flower(cx - 16, cy + 34, PINK, 0.9) + flower(cx + 16, cy + 34, YELLOW, 0.9) + flower(cx, cy + 24, CORAL, 1.1)
+
+
+def bench(x, y, w):
+    """A bench for those who wait, its seat at y."""
+    out = shadow(x + w / 2, y + 70, w / 2, 7)
+    for leg in (x + 20, x + w - 20):
+        out += limb(f"M{leg},{y + 12}V{y + 62}", DARKWOOD, 10)
+    for post in (x + 34, x + w - 34):
+        out += limb(f"M{post},{y - 34}V{y + 4}", DARKWOOD, 8)
+    return out + solid(box(x + 6, y - 56, w - 12, 34, 12), WOOD, 5) + solid(box(x, y, w, 24, 10), CORAL, 5)
+
+
+def turtleroom():
+    out = wall(light(PINK, 0.3), "stars")
+    out += window(36, 80, 116, 112) + curtains(36, 80, 116, 112, GREEN)
+    out += sunbeam(((36, 214), (152, 214), (330, 458), (120, 458)))
+    out += poster(204, 60, 88, 100, fish(248, 110, 1.0), MINT) + poster(470, 86, 78, 96, heart(509, 136, 20), CREAM)
+    out += lamp(716, 40)
+    out += rug(340, 484, 250, 17, TEAL, CREAM)
+    out += shadow(84, 461, 66, 5) + shadow(346, 480, 160, 9)
+    out += table(194, 390, 304, 92, YELLOW)
+    out += shadow(176, 482, 26, 5) + plant(176, 482, 0.6) + shadow(548, 484, 38, 6) + bowl(548, 472)
+    out += shadow(700, 482, 66, 8)
+    return screen(out)
 
 
 def catroom():
@@ -234,19 +279,20 @@ def bookscreen():
         out += stroke(f"M{76},{462 + dx}C160,{443 + dx} 330,{441 + dx} 400,{468 + dx}C470,{441 + dx} 640,{443 + dx} 724,{462 + dx}", shade(CREAM, 0.3), 3)
     rows = (
         (dog("sad", "cut"), (antiseptic, bandaid), dog("joy", "bandaid", 1)),
-        (cat("sad", "muddy"), (soap, fleapowder, fleacollar), cat("joy", "collar", 1)),
+        (cat("sad", "fleas"), (fleapowder, calamine, fleacollar), cat("joy", "collar", 1)),
         (rabbit("sad", "cold"), (water, grapes, antibiotic), rabbit("joy", "well")),
+        (turtle("sad", "muddy"), (soap, water, bandaid), turtle("joy", "well")),
     )
     for row, (ill, cure, well) in enumerate(rows):
-        y = 56 + row * 134
+        y = 56 + row * 101
         if row:
             out += stroke(f"M204,{y}H366M434,{y}H570", shade(CREAM, 0.25), 3)
-        out += move(ill, 84, y, size=0.45)
+        out += move(ill, 98, y + 1, size=0.335)
         for tool, x in zip(cure, (250, 346, 454)):
-            out += tool(x, y + 68, 0.88 if tool is fleacollar else 1.0)
+            out += tool(x, y + 51, 0.66 if tool is fleacollar else 0.76)
             if x > 250:
-                out += arrow(x - 48 if x < 400 else 400, y + 68, 0.42, fill=YELLOW)
-        out += arrow(532 if len(cure) == 3 else 474, y + 68, 0.8, fill=YELLOW) + move(well, 582, y, size=0.45) + heart(712, y + 40, 11, PINK)
+                out += arrow(x - 48 if x < 400 else 400, y + 51, 0.4, fill=YELLOW)
+        out += arrow(532 if len(cure) == 3 else 474, y + 51, 0.7, fill=YELLOW) + move(well, 590, y + 1, size=0.335) + heart(706, y + 32, 10, PINK)
     return screen(out)
 
 
@@ -323,6 +369,8 @@ DOORS = {
     "hall2door": lambda: door(YELLOW, hall_sign(66, 84)),
     "catdoor": lambda: door(GREEN, cat_face(66, 86, 0.95)),
     "rabbitdoor": lambda: door(PINK, rabbit_face(66, 90, 0.85)),
+    "turtledoor": lambda: door(CORAL, turtle_face(66, 84, 0.9)),
+    "hall3door": lambda: door(YELLOW, hall_sign(66, 84)),
     "liftdoor": lambda: lift_door(),
 }
 
@@ -401,7 +449,12 @@ def bubble_contents():
     def cat_with(*signs):
         return cat_face(54, 82, 1.05) + "".join(signs)
 
-    mud = flat(ellipse(40, 70, 8, 6), DARKWOOD) + flat(ellipse(68, 92, 7, 5), DARKWOOD) + flat(ellipse(64, 66, 5, 4), DARKWOOD)
+    def turtle_with(*signs):
+        return turtle_face(52, 82, 1.0) + "".join(signs)
+
+    mud = "".join(flat(ellipse(x, y, r, r * 0.75), "#8f5c39") for x, y, r in ((40, 68, 8), (66, 68, 6), (72, 96, 7), (30, 94, 6)))
+    bites = "".join(solid(ellipse(x, y, 4), CORAL, 0, 2) for x, y in ((40, 66), (68, 66), (34, 92), (76, 90)))
+    lotion = "".join(flat(ellipse(x, y, 6, 4.5), PINK) for x, y in ((40, 66), (68, 66), (34, 92), (76, 90)))
     fleas = flea(24, 50, 0.9) + flea(86, 52, 0.9, 150) + flea(54, 118, 0.9)
     cold = rabbit_face(54, 82, 1.05) + solid(ellipse(54, 94, 9, 7), CORAL, 0, 3)
     return (
@@ -420,23 +473,27 @@ def bubble_contents():
         ("dog-well", dog_face(80, 80, 1.15) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
         ("antiseptic", helps(antiseptic, paw(162, 78, "cut"), 1.15)),
         ("bandaid", helps(bandaid, paw(162, 78, "clean"), 0.9)),
-        ("home", dog_face(44, 80, 0.85) + cat_face(108, 82, 0.85) + rabbit_face(170, 82, 0.85)),
-        ("soap", helps(soap, move(cat_face(54, 82, 1.05) + mud, 112, 0), 0.95)),
+        ("home", dog_face(62, 48, 0.75) + cat_face(154, 50, 0.75) + rabbit_face(62, 108, 0.7) + turtle_face(154, 106, 0.68)),
+        ("soap", helps(soap, move(turtle_with(mud), 112, 0), 0.95)),
         ("fleapowder", helps(fleapowder, flea(164, 80, 2.0), 1.1)),
         ("fleacollar", helps(fleacollar, cat_face(164, 80, 1.0), 0.85)),
         ("water", helps(water, move(cold, 108, 0), 1.05)),
         ("grapes", helps(grapes, rabbit_face(164, 84, 1.0) + heart(192, 40, 10), 0.95)),
         ("antibiotic", helps(antibiotic, move(cold, 108, 0), 1.1)),
-        ("calamine", helps(calamine, sparkle(160, 62, 17) + sparkle(180, 100, 11), 1.15)),
+        ("calamine", helps(calamine, move(cat_with(bites), 110, 0), 1.15)),
         ("basket", soap(42, 66, 0.7) + bandaid(70, 92, 0.55) + small_arrow(112, 76) + basket(168, 78, 0.8)),
-        ("cat", step(cat_with(mud), soap, 0.95)),
-        ("cat-fleas", step(cat_with(fleas), fleapowder, 1.1)),
-        ("cat-powder", step(cat_with(sparkle(90, 44, 10), sparkle(24, 118, 8)), fleacollar, 0.85)),
+        ("cat", step(cat_with(fleas), fleapowder, 1.1)),
+        ("cat-itchy", step(cat_with(bites), calamine, 1.1)),
+        ("cat-lotion", step(cat_with(lotion, sparkle(92, 44, 10)), fleacollar, 0.85)),
         ("cat-well", cat_face(80, 82, 1.25) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
         ("rabbit", step(cold, water, 1.05)),
         ("rabbit-drunk", step(rabbit_face(54, 84, 1.05), grapes, 0.95)),
         ("rabbit-fed", step(rabbit_face(54, 84, 1.05) + sparkle(92, 44, 10), antibiotic, 1.1)),
         ("rabbit-well", rabbit_face(80, 86, 1.2) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
+        ("turtle", step(turtle_with(mud), soap, 0.95)),
+        ("turtle-parched", step(turtle_with(solid("M46,93H58V103Q52,111 46,103Z", PINK, 0, 2.5)), water, 1.05)),
+        ("turtle-scratch", step(turtle_with(stroke("M34,70L42,62L48,68L56,58", CORAL, 4)), bandaid, 0.9)),
+        ("turtle-well", turtle_face(80, 82, 1.3) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
     )
 
 
@@ -510,7 +567,7 @@ def patient_sheet(draw, looks, well):
 
 
 def cat_sheet():
-    return patient_sheet(lambda mood, look, pose, **more: cat(mood, look, pose, itch=pose, **more), ("muddy", "fleas", "powder"), "collar")
+    return patient_sheet(lambda mood, look, pose, **more: cat(mood, look, pose, itch=pose, **more), ("fleas", "itchy", "lotion"), "collar")
 
 
 def rabbit_sheet():
@@ -518,6 +575,10 @@ def rabbit_sheet():
         return rabbit("sneeze" if mood == "blink" else mood, look, **more)
 
     return patient_sheet(draw, ("cold", "drunk", "fed"), "well")
+
+
+def turtle_sheet():
+    return patient_sheet(turtle, ("muddy", "parched", "scratch"), "well")
 
 
 def shelf_item(name, tool):
@@ -624,6 +685,7 @@ SHEETS = {
     "Info/Floor1/hall1/dogportrait": lambda: portrait(dog_face(0, 0, 0.95)),
     "Info/Floor1/hall1/catportrait": lambda: portrait(cat_face(0, 2, 1.0)),
     "Info/Floor1/hall1/rabbitportrait": lambda: portrait(rabbit_face(0, 8, 0.9)),
+    "Info/Floor1/hall1/turtleportrait": lambda: portrait(turtle_face(0, 0, 0.9)),
     "Info/Floor1/dogroom/room": dogroom,
     "Info/Floor1/dogroom/dog": dog_sheet,
     "Info/Floor1/hall1/nextsign": next_sign,
@@ -632,11 +694,15 @@ SHEETS = {
     "Info/Floor1/catroom/cat": cat_sheet,
     "Info/Floor1/rabbitroom/room": rabbitroom,
     "Info/Floor1/rabbitroom/rabbit": rabbit_sheet,
+    "Info/Floor2/hall1/hall": floor2hall,
+    "Info/Floor2/turtleroom/room": turtleroom,
+    "Info/Floor2/turtleroom/turtle": turtle_sheet,
     "Info/Floor1/emptyroom1/room": emptyroom,
     "Info/Floor1/emptyroom1/basket": tool_basket,
     "Info/Elevator/room": elevator,
     "Info/Elevator/lift1button": lambda: lift_button(1),
     "Info/Elevator/lift2button": lambda: lift_button(2),
+    "Info/Elevator/lift3button": lambda: lift_button(3),
     "Info/Book/book": bookscreen,
     "Info/Book/back": book_back,
     "Info/Doctor/doctor": doctor_sheet,

@@ -121,6 +121,17 @@ def rabbitjoy():
     return mix((0, thump), (0.14, thump), (0.3, squeak), (0.5, squeak))
 
 
+def turtleow():
+    """A small hollow honk that sinks."""
+    return mix((0, tone(0.2, (330, 390, 300), 0.8, REED, 0.03)), (0.22, tone(0.36, (310, 350, 210), 0.8, REED, 0.04, None, (7, 0.03))))
+
+
+def turtlejoy():
+    """Two knocks on the shell and a merry honk upwards."""
+    knock = tone(0.1, (420, 250), 0.9, SOFT, 0.002, 0.03)
+    return mix((0, knock), (0.12, knock), (0.28, tone(0.16, (300, 420), 0.7, REED, 0.02)), (0.46, tone(0.28, (380, 560, 500), 0.7, REED, 0.03)))
+
+
 def dogpet():
     """A contented little whine, panting."""
     pant = noise(0.1, 0.5, 0.45, 0.05, 9)
@@ -135,6 +146,11 @@ def catpet():
 def rabbitpet():
     """Two soft, low squeaks: the teeth are ground in comfort."""
     return mix((0, tone(0.2, (700, 820), 0.6, SOFT, 0.04)), (0.24, tone(0.26, (760, 900, 780), 0.6, SOFT, 0.05)))
+
+
+def turtlepet():
+    """A long, low hum."""
+    return tone(0.7, (190, 230, 200), 0.8, SOFT, 0.1, None, (6, 0.02))
 
 
 def pop():
@@ -169,6 +185,7 @@ def oops():
 
 EFFECTS = {f.__name__: f for f in (
     click, door, take, back, page, cure, dogow, dogjoy, dogpet, catow, catjoy, catpet, rabbitow, rabbitjoy, rabbitpet,
+    turtleow, turtlejoy, turtlepet,
     pop, spray, boing, splat, lift, oops,
 )}  # fmt: skip
 

@@ -28,8 +28,8 @@ GAMES = {
     # game: its screen, the room and the patient that lead to it, the state in which it is offered
     # (on Easy the clinic offers no germs; they are played all the same)
     "germs": ("shooterscreen", "dogroom", "dog", "default"),
-    "mud": ("brickscreen", "catroom", "cat", "default"),
-    "fleas": ("bobblescreen", "catroom", "cat", "better1"),
+    "mud": ("brickscreen", "turtleroom", "turtle", "default"),
+    "fleas": ("bobblescreen", "catroom", "cat", "default"),
     "picture": ("squarescreen", "rabbitroom", "rabbit", "better1"),
 }
 LEVELS = {"Easy": "optEasy", "Normal": "optMedium", "Hard": "optHard"}
