@@ -25,6 +25,11 @@ TEST(ToolBelt, UnknownWordsAreAUsageError) {
   EXPECT_EQ(RunToolBelt({"--help"}), 0);
 }
 
+TEST(ToolBelt, AFolderThatCanNotBeMadeIsAUsageError) {
+  const Folder content;
+  EXPECT_EQ(RunToolBelt({"drive", "--content", content.Path(), "--user", "/dev/null/player"}), 2);
+}
+
 TEST(ToolBelt, AskingForHelpExcusesNoUnknownWord) {
   EXPECT_EQ(RunToolBelt({"dance", "--help"}), 2);
   EXPECT_EQ(RunToolBelt({"--help", "dance"}), 2);
