@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
+#include "base/FatalError.h"
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
 #include "toolbelt/BenchContent.h"
@@ -58,7 +59,8 @@ class Table {
 };
 
 void RequireRunning(DriveSession& session) {
-  if (!session.Running()) throw std::runtime_error(session.Game().Fault().text);
+  const FaultReport& fault = session.Game().Fault();
+  if (!session.Running()) throw FatalError(fault.text, fault.place);
 }
 
 void Send(DriveSession& session, const std::string& message) {
