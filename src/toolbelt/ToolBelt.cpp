@@ -6,10 +6,10 @@
 
 #include "base/FatalError.h"
 #include "base/Text.h"
-#include "toolbelt/Arguments.h"
-#include "toolbelt/HelpFormatter.h"
-#include "toolbelt/ManPage.h"
+#include "toolbelt/command_line/HelpFormatter.h"
+#include "toolbelt/command_line/ManPage.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/drive/Arguments.h"
 
 namespace quendle {
 namespace {

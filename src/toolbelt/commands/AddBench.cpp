@@ -3,11 +3,11 @@
 
 #include "base/FatalError.h"
 #include "base/Text.h"
-#include "toolbelt/Bench.h"
-#include "toolbelt/BenchTable.h"
-#include "toolbelt/ContentRun.h"
+#include "toolbelt/bench/Bench.h"
+#include "toolbelt/bench/BenchTable.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/play/ContentRun.h"
 
 namespace quendle {
 namespace {
