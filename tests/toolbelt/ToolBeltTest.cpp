@@ -142,7 +142,11 @@ TEST(ToolBelt, NamesOfContentAreReadAndToldAsTheTerminalWritesThem) {
       << "hall\ns\xE4le\n0\n0\n0\n0\n<CurrentDirectory>\\halldata.txt\nnothing\nstate_default\n";
   const std::string hall = "s\xC3\xA4le";
   EXPECT_EQ(RunToolBelt({"render", tree, hall, folder.File("hall.png")}), 0);
+  testing::internal::CaptureStdout();
   EXPECT_EQ(RunToolBelt({"tree", tree, hall}), 0);
+  EXPECT_THAT(testing::internal::GetCapturedStdout(),
+              testing::StartsWith(hall + std::string(28, ' ') + "hall "))
+      << "in its column";
   EXPECT_EQ(RunToolBelt({"random", tree, "--events", "1", "--from", hall}), 0);
   testing::internal::CaptureStderr();
   EXPECT_EQ(RunToolBelt({"tree", tree, hall + "x"}), 1);
