@@ -188,7 +188,7 @@ def self_test():
         "dialogs/Form.h": '#include "logic/Layer.h"\n',
         "backends/desktop/Window.cpp":
             '#include <SDL.h>\n#include <unistd.h>\n#include "platform/Clock.h"\n',
-        "toolbelt/Drive.cpp": '#include <CLI/CLI.hpp>\n#include "backends/desktop/Window.h"\n',
+        "toolbelt/drive/Drive.cpp": '#include <CLI/CLI.hpp>\n#include "backends/desktop/Window.h"\n',
         "backends/desktop/Window.h": "",
     }
     planted = {

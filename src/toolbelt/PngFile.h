@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "toolbelt/KeyedPicture.h"
+#include "toolbelt/making/KeyedPicture.h"
 
 namespace quendle {
 

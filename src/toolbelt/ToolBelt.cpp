@@ -5,8 +5,8 @@
 #include <iostream>
 
 #include "base/FatalError.h"
-#include "toolbelt/HelpFormatter.h"
-#include "toolbelt/ManPage.h"
+#include "toolbelt/command_line/HelpFormatter.h"
+#include "toolbelt/command_line/ManPage.h"
 #include "toolbelt/commands/Commands.h"
 
 namespace quendle {

@@ -1,6 +1,6 @@
-#include "toolbelt/BenchContent.h"
 #include "toolbelt/DriveBench.h"
-#include "toolbelt/Measurement.h"
+#include "toolbelt/bench/BenchContent.h"
+#include "toolbelt/bench/Measurement.h"
 
 namespace quendle {
 namespace {

@@ -9,8 +9,8 @@
 #include <string>
 
 #include "backends/files/MemoryFileSystem.h"
-#include "toolbelt/Drive.h"
-#include "toolbelt/SmallestContent.h"
+#include "toolbelt/drive/Drive.h"
+#include "toolbelt/making/SmallestContent.h"
 
 namespace quendle {
 

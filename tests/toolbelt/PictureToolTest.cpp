@@ -1,4 +1,4 @@
-#include "toolbelt/PictureTool.h"
+#include "toolbelt/making/PictureTool.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -8,9 +8,9 @@
 
 #include "backends/raster/BitmapReader.h"
 #include "toolbelt/FrameHash.h"
-#include "toolbelt/KeyedPicture.h"
 #include "toolbelt/PngFile.h"
 #include "toolbelt/ToolBelt.h"
+#include "toolbelt/making/KeyedPicture.h"
 
 namespace quendle {
 namespace {

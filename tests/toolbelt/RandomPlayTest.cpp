@@ -1,4 +1,4 @@
-#include "toolbelt/RandomPlay.h"
+#include "toolbelt/play/RandomPlay.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,10 +7,10 @@
 #include <sstream>
 
 #include "backends/files/DiskFileSystem.h"
-#include "toolbelt/Arguments.h"
-#include "toolbelt/Drive.h"
-#include "toolbelt/Shortening.h"
 #include "toolbelt/TreeBench.h"
+#include "toolbelt/drive/Arguments.h"
+#include "toolbelt/drive/Drive.h"
+#include "toolbelt/play/Shortening.h"
 
 namespace quendle {
 namespace {

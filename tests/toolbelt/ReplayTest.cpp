@@ -1,4 +1,4 @@
-#include "toolbelt/Replay.h"
+#include "toolbelt/play/Replay.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,9 +10,9 @@
 
 #include "backends/files/ContentHash.h"
 #include "backends/files/DiskFileSystem.h"
-#include "toolbelt/Drive.h"
-#include "toolbelt/SmallestContent.h"
 #include "toolbelt/TemporaryFolder.h"
+#include "toolbelt/drive/Drive.h"
+#include "toolbelt/making/SmallestContent.h"
 
 namespace quendle {
 namespace {

@@ -1,11 +1,11 @@
-#include "toolbelt/SmallestContent.h"
+#include "toolbelt/making/SmallestContent.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
-#include "toolbelt/NewContentReadme.h"
 #include "toolbelt/TreeBench.h"
+#include "toolbelt/making/NewContentReadme.h"
 
 namespace quendle {
 namespace {

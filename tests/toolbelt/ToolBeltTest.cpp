@@ -7,8 +7,8 @@
 #include <sstream>
 
 #include "toolbelt/PngFile.h"
-#include "toolbelt/SmallestContent.h"
 #include "toolbelt/TemporaryFolder.h"
+#include "toolbelt/making/SmallestContent.h"
 
 namespace quendle {
 namespace {

@@ -9,8 +9,8 @@
 #include <map>
 #include <string>
 
-#include "toolbelt/SmallestContent.h"
 #include "toolbelt/TemporaryFolder.h"
+#include "toolbelt/making/SmallestContent.h"
 
 namespace quendle {
 

@@ -1,4 +1,4 @@
-#include "toolbelt/TreeTool.h"
+#include "toolbelt/making/TreeTool.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,11 +6,11 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "toolbelt/Arguments.h"
 #include "toolbelt/Json.h"
 #include "toolbelt/PngFile.h"
-#include "toolbelt/Render.h"
 #include "toolbelt/TreeBench.h"
+#include "toolbelt/drive/Arguments.h"
+#include "toolbelt/making/Render.h"
 
 namespace quendle {
 namespace {

@@ -12,7 +12,7 @@
 #include "backends/raster/BitmapWriter.h"
 #include "support/WaveFiles.h"
 #include "toolbelt/Progress.h"
-#include "toolbelt/SmallestContent.h"
+#include "toolbelt/making/SmallestContent.h"
 #include "toolbelt/verify/Report.h"
 #include "toolbelt/verify/SideList.h"
 #include "toolbelt/verify/VerifyContent.h"

@@ -9,8 +9,8 @@
 #include "shell/Globals.h"
 #include "shell/Registries.h"
 #include "support/TestPlatform.h"
-#include "toolbelt/Drive.h"
 #include "toolbelt/VerifyPairs.h"
+#include "toolbelt/drive/Drive.h"
 #include "toolbelt/verify/MessageRouter.h"
 #include "toolbelt/verify/TreeReader.h"
 

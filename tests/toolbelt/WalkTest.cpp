@@ -1,4 +1,4 @@
-#include "toolbelt/Walk.h"
+#include "toolbelt/play/Walk.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

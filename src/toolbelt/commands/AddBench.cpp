@@ -1,7 +1,7 @@
 #include <memory>
 
-#include "toolbelt/Bench.h"
-#include "toolbelt/BenchTable.h"
+#include "toolbelt/bench/Bench.h"
+#include "toolbelt/bench/BenchTable.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
 

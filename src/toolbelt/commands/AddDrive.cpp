@@ -1,9 +1,9 @@
 #include <memory>
 
-#include "toolbelt/Drive.h"
-#include "toolbelt/DriveCommand.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/drive/Drive.h"
+#include "toolbelt/drive/DriveCommand.h"
 
 namespace quendle {
 namespace {

@@ -1,8 +1,8 @@
 #include <memory>
 
-#include "toolbelt/SmallestContent.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/making/SmallestContent.h"
 
 namespace quendle {
 

@@ -1,8 +1,8 @@
 #include <memory>
 
-#include "toolbelt/PictureTool.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/making/PictureTool.h"
 
 namespace quendle {
 

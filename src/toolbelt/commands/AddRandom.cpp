@@ -1,9 +1,9 @@
 #include <iostream>
 #include <memory>
 
-#include "toolbelt/RandomPlay.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/play/RandomPlay.h"
 
 namespace quendle {
 namespace {

@@ -1,9 +1,9 @@
 #include <iostream>
 #include <memory>
 
-#include "toolbelt/Render.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/making/Render.h"
 
 namespace quendle {
 

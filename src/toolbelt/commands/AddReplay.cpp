@@ -1,9 +1,9 @@
 #include <iostream>
 #include <memory>
 
-#include "toolbelt/Replay.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/play/Replay.h"
 
 namespace quendle {
 

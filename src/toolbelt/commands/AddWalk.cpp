@@ -1,9 +1,9 @@
 #include <iostream>
 #include <memory>
 
-#include "toolbelt/Walk.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/play/Walk.h"
 
 namespace quendle {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "toolbelt/DriveSession.h"
+#include "toolbelt/drive/DriveSession.h"
 
 namespace quendle {
 

@@ -1,0 +1,68 @@
+#include "toolbelt/play/ContentRun.h"
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <ostream>
+
+#include "base/FatalError.h"
+#include "base/Text.h"
+#include "logic/GameLogicLayer.h"
+#include "toolbelt/Utf8.h"
+#include "toolbelt/drive/Arguments.h"
+#include "toolbelt/drive/Drive.h"
+
+namespace quendle {
+namespace {
+
+// Everything that a run writes beside the executable and reads at its start.
+constexpr const char* kLeftByPlayers[] = {
+    "userdata.txt",    "autosave.txt",        "HelpSys.txt",      "GameRunning.txt", "GameMode.txt",
+    "Personalize.txt", "DifficultyLevel.txt", "GraphicsMode.txt", "DialogMode.txt"};
+
+}  // namespace
+
+ContentRun::ContentRun(const std::string& content, const DriveOptions& options)
+    : base_(std::filesystem::canonical(content).string()),
+      files_({base_, user_.Path(), ""}, faults_),
+      session_(files_, faults_, base_, options) {
+  for (const char* name : kLeftByPlayers) {
+    const std::string path = base_ + "\\" + name;
+    if (files_.Exists(path)) files_.Remove(path);
+  }
+}
+
+bool ContentRun::Play(const std::string& difficulty) {
+  for (const std::string& line : CommandsToPlay(difficulty)) RunCommandLine(session_, line);
+  return session_.Running();
+}
+
+std::vector<std::string> ContentRun::Screens() {
+  std::vector<std::string> screens;
+  session_.Logic().Keeper()->EnumerateScreens(screens);
+  return screens;
+}
+
+bool ContentRun::Enter(const std::string& screen) {
+  GameLogicLayer& logic = session_.Logic();
+  if (!logic.Keeper()->DoesScreenExist(screen)) {
+    throw CommandRefused("there is no screen \"" + screen + "\"" +
+                         DidYouMean(screen, logic.Keeper()->Table().Keys()));
+  }
+  if (EqualsNoCase(logic.CurrentScreen()->ObjectName(), screen)) return true;
+  return session_.Deliver([&] { logic.Send("cs_" + screen); });
+}
+
+int ContentRun::TellFault(std::ostream& out) {
+  const FaultReport& fault = session_.Game().Fault();
+  out << ToUtf8(FatalError(fault.text, fault.place).what()) << "\n";
+  if (!fault.object.empty()) out << "  object:  " << ToUtf8(fault.object) << "\n";
+  if (!fault.message.empty()) out << "  in work: " << ToUtf8(fault.message) << "\n";
+  return kGameFailed;
+}
+
+std::vector<std::string> CommandsToPlay(const std::string& difficulty) {
+  if (EqualsNoCase(difficulty, "Normal")) return {"play"};
+  return {"start", "press Picture1 1", "set opt" + difficulty + " on", "press Picture1 1"};
+}
+
+}  // namespace quendle
