@@ -78,7 +78,7 @@ std::vector<std::string> ReadActionWords(const std::string& text) {
   if (std::filesystem::is_regular_file(text)) {
     std::ifstream file(text);
     for (std::string line; std::getline(file, line);) {
-      const std::string_view word = TrimBlanks(line.substr(0, line.find('\r')));
+      const std::string_view word = TrimBlanks(std::string_view(line).substr(0, line.find('\r')));
       if (!word.empty() && word.front() != '#') words.emplace_back(word);
     }
   } else {
