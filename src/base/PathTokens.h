@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace quendle {
 
@@ -22,6 +23,18 @@ class PathResolver {
   virtual ~PathResolver() = default;
   // The path, still relative to the base directory.
   virtual std::string Resolve(std::string_view stored_path) const = 0;
+};
+
+// Resolves directory tokens against one folder, which ends with a backslash.
+class FolderPaths : public PathResolver {
+ public:
+  explicit FolderPaths(std::string folder) : folder_(std::move(folder)) {}
+  std::string Resolve(std::string_view stored_path) const override {
+    return ResolveDirectoryTokens(folder_, stored_path);
+  }
+
+ private:
+  std::string folder_;
 };
 
 }  // namespace quendle

@@ -29,7 +29,7 @@ void WorkDepth::ForgetFailure() {
 void DepthGuard::Refuse() {
   Note();
   throw FatalError("more than " + std::to_string(WorkDepth::kLimit) +
-                   " levels deep: the content goes round in circles at " + Noun(work_) + " \"" +
+                       " levels deep: the content goes round in circles at " + Noun(work_) + " \"" +
                        std::string(text_) + "\"",
                    origin_ == nullptr ? FilePlace{} : *origin_);
 }

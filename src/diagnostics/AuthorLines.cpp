@@ -71,9 +71,10 @@ void AddObject(Page& page, const ObjectUnder& object) {
                  Names(object.frames));
   }
   if (object.timer != 0) {
+    // A timer that is late comes as soon as it can.
     page.Add(Tone::kPlain, 1,
              "timer " + std::to_string(object.timer) + ": each " + std::to_string(object.interval) +
-                 " ms, next in " + std::to_string(object.due));
+                 " ms, next in " + std::to_string(std::max(object.due, 0)));
   }
   if (!object.sound.empty() && !EqualsNoCase(object.sound, "nothing")) {
     page.Add(Tone::kPlain, 1,

@@ -94,8 +94,9 @@ void GameLogicLayer::StartMusic() {
 ObjectRef GameLogicLayer::RequireScreen(const std::string& name) {
   ObjectRef screen = m_ptrScreenKeeper->GetScreen(name);
   if (screen != nullptr) return screen;
-  throw FatalError("there is no screen \"" + name + "\"" +
-                   DidYouMean(name, m_ptrScreenKeeper->Table().Keys()));
+  throw FatalError(
+      "there is no screen \"" + name + "\"" + DidYouMean(name, m_ptrScreenKeeper->Table().Keys()),
+      {"Info\\screens.txt", 0});
 }
 
 void GameLogicLayer::TurnOff() {

@@ -18,17 +18,6 @@ namespace {
 
 constexpr const char* kListFolder = "\\Info\\";
 
-class ListPaths : public PathResolver {
- public:
-  explicit ListPaths(std::string folder) : folder_(std::move(folder)) {}
-  std::string Resolve(std::string_view path) const override {
-    return ResolveDirectoryTokens(folder_, path);
-  }
-
- private:
-  std::string folder_;
-};
-
 std::unique_ptr<TextStream> OpenList(const ContentFiles& content, const char* name) {
   return content.OpenTextFileChecked(content.BaseDirectory() + kListFolder + name, OpenMode::kRead,
                                      false);
@@ -62,7 +51,7 @@ void LoadGlobalScripts(Globals& globals) {
   const ContentFiles& content = globals.media.content;
   auto list = OpenList(content, "globalscriptstates.txt");
   for (const ScriptListRecord& record : ReadScriptList(*list)) {
-    const ListPaths paths(FolderOfListLine(record.path, content.BaseDirectory()));
+    const FolderPaths paths(FolderOfListLine(record.path, content.BaseDirectory()));
     auto script =
         LoadScript(content, record.name, content.BaseDirectory() + paths.Resolve(record.path),
                    paths, globals.watch.depth);

@@ -5,9 +5,11 @@
 #include <iostream>
 
 #include "base/FatalError.h"
+#include "base/Text.h"
 #include "toolbelt/command_line/HelpFormatter.h"
 #include "toolbelt/command_line/ManPage.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/drive/Arguments.h"
 
 namespace quendle {
 namespace {
@@ -81,6 +83,9 @@ int RunToolBelt(std::vector<std::string> words) {
     return TellUnknownWord(belt, belt.remaining(true).front());
   } catch (const CLI::ParseError& error) {
     return TellUsageError(error.what());
+  } catch (const CommandRefused& refused) {
+    std::cerr << "quendle: " << ToUtf8(refused.what()) << "\n";  // names things of the content
+    return 1;
   } catch (const std::exception& error) {
     std::cerr << "quendle: " << error.what() << "\n";
     return 1;

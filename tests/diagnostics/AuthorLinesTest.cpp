@@ -48,6 +48,13 @@ TEST(AuthorLines, TellEverythingOfAnObject) {
                           "  timer 4: each 100 ms, next in 40", "  sound \"creak\", plays"));
 }
 
+TEST(AuthorLines, TellNoTimeBelowZeroOfATimerThatIsLate) {
+  ObjectUnder late = Door();
+  late.due = -2;
+  EXPECT_THAT(Text(LinesOf({25, 105}, {late})),
+              testing::Contains("  timer 4: each 100 ms, next in 0"));
+}
+
 TEST(AuthorLines, TellWhyAnObjectIsNotHit) {
   ObjectUnder beside = Door();
   beside.hit = false;

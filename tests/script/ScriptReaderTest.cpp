@@ -13,14 +13,6 @@ namespace {
 
 const char* const kScript = "C:\\Game\\Info\\door\\main.txt";
 
-// Resolves against "\Info\door\".
-class DoorPaths : public PathResolver {
- public:
-  std::string Resolve(std::string_view path) const override {
-    return ResolveDirectoryTokens("\\Info\\door\\", path);
-  }
-};
-
 class ScriptReaderTest : public ::testing::Test {
  protected:
   ScriptReaderTest() { settings_.BaseDirectory = "C:\\Game"; }
@@ -37,7 +29,7 @@ class ScriptReaderTest : public ::testing::Test {
   Settings settings_;
   MemoryFileSystem files_{"C:\\Game"};
   ContentFiles content_{files_, settings_};
-  DoorPaths paths_;
+  FolderPaths paths_{"\\Info\\door\\"};
   WorkDepth depth_;
 };
 

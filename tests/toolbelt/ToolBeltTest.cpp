@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 
 #include "toolbelt/PngFile.h"
@@ -23,6 +24,11 @@ TEST(ToolBelt, UnknownWordsAreAUsageError) {
   EXPECT_EQ(RunToolBelt({"picture", "one"}), 2);
   EXPECT_EQ(RunToolBelt({"drive", "--content", "/no/such/folder"}), 2);
   EXPECT_EQ(RunToolBelt({"--help"}), 0);
+}
+
+TEST(ToolBelt, AFolderThatCanNotBeMadeIsAUsageError) {
+  const Folder content;
+  EXPECT_EQ(RunToolBelt({"drive", "--content", content.Path(), "--user", "/dev/null/player"}), 2);
 }
 
 TEST(ToolBelt, AskingForHelpExcusesNoUnknownWord) {
@@ -86,6 +92,71 @@ TEST(ToolBelt, ANewTreeIsMadeOnlyWhereNothingIs) {
   EXPECT_EQ(RunToolBelt({"new", folder.File("tree")}), 0);
   EXPECT_TRUE(std::filesystem::exists(folder.File("tree/Info/screens.txt")));
   EXPECT_EQ(RunToolBelt({"new", folder.File("tree")}), 1);
+}
+
+TEST(ToolBelt, ANewTreeNeedsAFolder) {
+  Folder folder;
+  std::ofstream(folder.File("file")) << "x";
+  for (const std::string& name : {std::string(), folder.File("file"), folder.File("file/tree")}) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(RunToolBelt({"new", name}), 1) << name;
+    EXPECT_THAT(testing::internal::GetCapturedStderr(),
+                testing::Not(testing::HasSubstr("filesystem error")));
+  }
+  EXPECT_FALSE(std::filesystem::exists("Info"));
+}
+
+TEST(ToolBelt, AFolderWithoutContentIsToldAsThat) {
+  Folder folder;
+  const std::string picture = folder.File("hall.png");
+  for (const std::vector<std::string>& words : {std::vector<std::string>{"walk", folder.Path()},
+                                                {"tree", folder.Path()},
+                                                {"random", folder.Path()},
+                                                {"render", folder.Path(), "hall", picture},
+                                                {"bench", "--content", folder.Path()}}) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(RunToolBelt(words), 1) << words.front();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(),
+                testing::HasSubstr(": there is no content: a tree has a folder \"Info\"\n"));
+  }
+}
+
+TEST(ToolBelt, ABenchOfABrokenGameEndsWithThree) {
+  Folder folder;
+  MakeNewContent(folder.File("tree"));
+  std::filesystem::remove(folder.File("tree/Info/screens.txt"));
+  EXPECT_EQ(RunToolBelt({"bench", "--content", folder.File("tree")}), 3);
+}
+
+TEST(ToolBelt, AStateIsGivenAsOneOfAnObject) {
+  Folder folder;
+  MakeNewContent(folder.File("tree"));
+  for (const char* state : {"backdoor", "=default", "backdoor="}) {
+    EXPECT_EQ(RunToolBelt({"render", folder.File("tree"), "hall", folder.File("hall.png"),
+                           "--state", state}),
+              2)
+        << state;
+  }
+}
+
+TEST(ToolBelt, NamesOfContentAreReadAndToldAsTheTerminalWritesThem) {
+  Folder folder;
+  const std::string tree = folder.File("tree");
+  MakeNewContent(tree);
+  std::ofstream(tree + "/Info/hall/hall.txt")
+      << "hall\ns\xE4le\n0\n0\n0\n0\n<CurrentDirectory>\\halldata.txt\nnothing\nstate_default\n";
+  const std::string hall = "s\xC3\xA4le";
+  EXPECT_EQ(RunToolBelt({"render", tree, hall, folder.File("hall.png")}), 0);
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(RunToolBelt({"tree", tree, hall}), 0);
+  EXPECT_THAT(testing::internal::GetCapturedStdout(),
+              testing::StartsWith(hall + std::string(28, ' ') + "hall "))
+      << "in its column";
+  EXPECT_EQ(RunToolBelt({"random", tree, "--events", "1", "--from", hall}), 0);
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(RunToolBelt({"tree", tree, hall + "x"}), 1);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "quendle: there is no screen \"" + hall + "x\"; did you mean \"" + hall + "\"?\n");
 }
 
 TEST(ToolBelt, AScreenIsRenderedAndTheTreeStaysAsItWas) {

@@ -199,7 +199,8 @@ class VerifyClinic {
     Object("patient", "dog",
            {.states = State("default", "nothing", "sit", "treat") +
                       State("default-owww", "nothing", "ow", "nothing") +
-                      State("better1", "nothing", "sit", "well"),
+                      State("better1", "nothing", "sit", "well") +
+                      State("better1-owww", "nothing", "ow", "nothing"),
             .animation = Head("dog") + Animation("sit", "loop", "sit blink") +
                          Animation("ow", "nonloop", "blink sit"),
             .frames = Frame("sit", "<CurrentDirectory>\\dogregions.txt", 0) +

@@ -72,6 +72,13 @@ TEST(VerifyEngine, AgreesOnTheTwinsOfAPatient) {
     }
   }
   EXPECT_EQ(pairs, 3);
+  for (const CheckPair& pair : MeaningPairs()) {
+    if (pair.code != "V906") continue;
+    EXPECT_FALSE((*LoadedObject(pair.fault, "dog")).VerifyOwwwPair("better1"));
+    EXPECT_TRUE((*LoadedObject(pair.twin, "dog")).VerifyOwwwPair("better1"));
+    ++pairs;
+  }
+  EXPECT_EQ(pairs, 5);
 }
 
 TEST(VerifyEngine, AgreesOnTheStatesOfTheDoctor) {

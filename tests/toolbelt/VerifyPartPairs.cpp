@@ -61,7 +61,7 @@ std::vector<CheckPair> PartPairs() {
       {"V311", "Info\\dogroom\\dogroomchildren.txt:2",
        Edit("dogroom\\dogroomchildren.txt", "ypos_100", "ypos_100 state_sad"),
        Edit("dogroom\\dogroomchildren.txt", "ypos_100", "ypos_100 state_better1")},
-      {"V312", "Info\\dog\\dogstates.txt:19",
+      {"V312", "Info\\dog\\dogstates.txt:25",
        Append("dog\\dogstates.txt", "asleep\nnothing\nsit\nnothing\nunused\nunused\n"),
        All({Append("dog\\dogstates.txt", "asleep\nnothing\nsit\nnothing\nunused\nunused\n"),
             Edit("dog\\wellscript.txt", "mtp cs_<objectname>room",

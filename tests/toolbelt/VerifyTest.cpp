@@ -1,5 +1,6 @@
 // What `quendle verify` says of whole trees, and how.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -11,6 +12,8 @@
 
 namespace quendle {
 namespace {
+
+constexpr uid_t kNobody = 65534;
 
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -105,6 +108,54 @@ TEST(Verify, StatesAreFollowedThroughAScript) {
               "change <incrementstate>\nmtp toobj_doctor_runstate_<currentstate>");
   EXPECT_THAT(clinic.Found(), HasSubstr("global/doctor has no state \"better1\""));
   EXPECT_THAT(clinic.Found(), Not(HasSubstr("no state \"default\"")));
+}
+
+TEST(Verify, AFileThatIsThereAndCannotBeReadIsNotCalledMissing) {
+  VerifyClinic clinic;
+  MemoryFileSystem files;
+  clinic.CopyTo(files);
+  files.Remove("\\Info\\dog\\dogstates.txt");  // the listing still has it
+  VerifiedTree tree{files, "", clinic.Listing()};
+  std::ostringstream unseen;
+  Progress progress(unseen, false);
+  std::ostringstream out;
+  PrintText(VerifyContent(tree, nullptr, progress), clinic.Listing(), out);
+  EXPECT_THAT(out.str(), HasSubstr("Info/dog/dogstates.txt:1: error V001: the file is there and "
+                                   "can't be read"));
+  EXPECT_THAT(out.str(), Not(HasSubstr("not found")));
+}
+
+TEST(Verify, OnlyNamesOfGettingWellNeedATwin) {
+  VerifyClinic clinic;
+  clinic.Edit("\\Info\\dog\\dogstates.txt", "default\n", "sick\n");
+  clinic.Edit("\\Info\\dog\\dogstates.txt", "default-owww", "sick-ow");
+  clinic.Edit("\\Info\\dog\\treatscript.txt", "runstate default-owww", "runstate sick-owww");
+  EXPECT_THAT(clinic.Found(), Not(HasSubstr("V90")));
+}
+
+TEST(Verify, TheDoctorIsAskedForHisToolsWhereverHeStands) {
+  VerifyClinic clinic;
+  clinic.Edit("\\Info\\dog\\dog.txt", "\ndog\n", "\ndoctor\n");
+  EXPECT_THAT(clinic.Found(), HasSubstr("Info\\dog\\dogstates.txt:0 V902 "));
+}
+
+TEST(Findings, TheSameTextAtTheSamePlaceCountsOnce) {
+  Findings findings;
+  findings.Add(Check::kTab, "a", {"Info\\x.txt", 3}, "text");
+  findings.Add(Check::kTab, "b", {"info\\X.txt", 3}, "text");
+  EXPECT_EQ(findings.All().size(), 1u);
+  findings.Add(Check::kTab, "a", {"Info\\x.txt", 4}, "text");
+  findings.Add(Check::kTab, "a", {"Info\\y.txt", 3}, "text");
+  findings.Add(Check::kTab, "a", {"Info\\x.txt", 3}, "other");
+  findings.Add(Check::kUtf8, "a", {"Info\\x.txt", 3}, "text");
+  EXPECT_EQ(findings.All().size(), 5u);
+}
+
+TEST(VerifyReport, WhatATerminalObeysIsNotPrinted) {
+  VerifyClinic clinic;
+  clinic.Edit("\\Info\\dog\\dogstates.txt", "sit", "s\x1B[2Jt");
+  EXPECT_THAT(Printed(clinic), HasSubstr("Animation State \"s?[2Jt\""));
+  EXPECT_THAT(Printed(clinic), Not(HasSubstr("\x1B")));
 }
 
 TEST(SideList, SilencesByCodeAndPathWithAReason) {
@@ -233,9 +284,35 @@ TEST_F(VerifyCommand, WrongUseGivesTwo) {
   EXPECT_EQ(Run({tree_, "--side-list", tree_ + "/nosuch"}), 2);
 }
 
-TEST_F(VerifyCommand, AFolderWithoutContentIsFullOfFindings) {
+TEST_F(VerifyCommand, AFolderWithoutContentIsToldAsThat) {
   EXPECT_EQ(Run({folder_.Path()}), 1);
-  EXPECT_THAT(out_, HasSubstr("Info/screens.txt:1: error V101"));
+  EXPECT_EQ(out_,
+            "Info:1: error V101: there is no content: a tree has a folder \"Info\" with files in "
+            "it\n\n1 error, 0 warnings, 0 notes\n");
+}
+
+TEST_F(VerifyCommand, LinksThatGoRoundInCirclesStopNothing) {
+  std::filesystem::create_symlink("loop", tree_ + "/Info/loop");
+  std::filesystem::create_directory_symlink(".", tree_ + "/Info/self");
+  EXPECT_EQ(Run({tree_}), 0);
+  EXPECT_EQ(err_, "");
+}
+
+TEST_F(VerifyCommand, AFolderThatCannotBeReadIsToldByItsName) {
+  const std::filesystem::path hall = tree_ + "/Info/hall";
+  std::filesystem::permissions(folder_.Path(), std::filesystem::perms(0755));
+  std::filesystem::permissions(hall, std::filesystem::perms::none);
+  const uid_t self = geteuid();
+  if (self == 0) {
+    ASSERT_EQ(seteuid(kNobody), 0) << "root may read everything";
+  }
+  const int code = Run({tree_});
+  if (self == 0) {
+    ASSERT_EQ(seteuid(self), 0);
+  }
+  std::filesystem::permissions(hall, std::filesystem::perms::owner_all);
+  EXPECT_EQ(code, 1);
+  EXPECT_THAT(out_, HasSubstr("Info/hall:1: error V001: the folder can't be read"));
 }
 
 TEST_F(VerifyCommand, NothingIsWritten) {

@@ -113,6 +113,8 @@ TEST_F(WalkTest, WordsComeFromAFileOrFromTheCommandLine) {
   Put("words.txt", "# tools\r\nhand\r\n\r\n  soap \n");
   EXPECT_THAT(ReadActionWords(Path() + "/Info/words.txt"), ElementsAre("hand", "soap"));
   EXPECT_THROW(ReadActionWords(","), std::runtime_error);
+  EXPECT_THROW(ReadActionWords(Path() + "/Info/wrods.txt"), std::runtime_error);
+  EXPECT_THROW(ReadActionWords("words.txt"), std::runtime_error) << "no tool has such a name";
   Put("words.txt", "# nothing\n");
   EXPECT_THROW(ReadActionWords(Path() + "/Info/words.txt"), std::runtime_error);
 }

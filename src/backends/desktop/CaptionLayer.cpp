@@ -14,10 +14,10 @@ namespace {
 // In pixels of the frame.
 constexpr double kLetters = 24;
 constexpr double kWidest = 700;
-constexpr double kSide = 18;   // between the text and the edge of its backing
-constexpr double kAbove = 8;   // the same, above and below
-constexpr int kMargin = 10;    // between the backing and the edge of the frame
-constexpr int kReach = 40;     // the pointer's picture reaches this far
+constexpr double kSide = 18;  // between the text and the edge of its backing
+constexpr double kAbove = 8;  // the same, above and below
+constexpr int kMargin = 10;   // between the backing and the edge of the frame
+constexpr int kReach = 40;    // the pointer's picture reaches this far
 
 constexpr Rgba kBacking = Hex(0x241810);
 constexpr Rgba kEdge = Hex(0xFFCFA3);

@@ -176,6 +176,10 @@ void FrameRenderer::DrawFrame(ScaleMode mode) {
   SDL_Texture* source = frame_.get();
   if (mode == ScaleMode::kSharp && !exact && SharpFactor(area) > 1) {
     if (SDL_Texture* enlarged = Enlarged(SharpFactor(area))) source = enlarged;
+  } else {
+    // Eight megabytes and more that a window of the frame's own size has no use for.
+    enlarged_.reset();
+    enlarged_factor_ = 0;
   }
   SDL_SetTextureScaleMode(source, exact ? SDL_ScaleModeNearest : SDL_ScaleModeLinear);
   SDL_RenderCopy(renderer_.get(), source, nullptr, &place);

@@ -10,6 +10,7 @@
 #include <stdexcept>
 
 #include "backends/raster/RasterSurface.h"
+#include "base/FatalError.h"
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
 #include "toolbelt/Json.h"
@@ -59,7 +60,8 @@ class Table {
 };
 
 void RequireRunning(DriveSession& session) {
-  if (!session.Running()) throw std::runtime_error(session.Game().Fault().text);
+  const FaultReport& fault = session.Game().Fault();
+  if (!session.Running()) throw FatalError(fault.text, fault.place);
 }
 
 void Send(DriveSession& session, const std::string& message) {

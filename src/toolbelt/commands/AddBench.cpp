@@ -1,9 +1,13 @@
+#include <iostream>
 #include <memory>
 
+#include "base/FatalError.h"
+#include "base/Text.h"
 #include "toolbelt/bench/Bench.h"
 #include "toolbelt/bench/BenchTable.h"
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
+#include "toolbelt/play/ContentRun.h"
 
 namespace quendle {
 namespace {
@@ -22,7 +26,7 @@ constexpr const char* kText =
 
 }  // namespace
 
-void AddBench(CLI::App& belt, int&) {
+void AddBench(CLI::App& belt, int& exit_code) {
   CLI::App* command = AddCommand(belt, kMeasuring, "bench",
                                  "Measures the engine: one workload, or a table for a content "
                                  "tree");
@@ -39,12 +43,17 @@ void AddBench(CLI::App& belt, int&) {
   command->add_flag("--json", settings->json, "The table as lines of JSON")->excludes(which);
   command->footer(
       Footer(kText, {"quendle bench", "quendle bench --content mygame --json", "quendle bench W1"},
-             {{0, "all was measured"}}));
-  command->callback([settings] {
+             {{0, "all was measured"}, {3, "the game ended fatally"}}));
+  command->callback([settings, &exit_code] {
     if (!settings->workload.empty()) return RunBench(settings->workload, settings->folder);
     if (settings->content.empty()) settings->content = ContentBesideTheProgram();
     if (settings->content.empty()) throw CLI::RequiredError("WORKLOAD or --content");
-    PrintBenchTable(settings->content, settings->json);
+    try {
+      PrintBenchTable(settings->content, settings->json);
+    } catch (const FatalError& fault) {
+      std::cerr << ToUtf8(fault.what()) << "\n";
+      exit_code = kGameFailed;
+    }
   });
 }
 

@@ -1,4 +1,7 @@
+#include <filesystem>
 #include <memory>
+#include <string>
+#include <system_error>
 
 #include "toolbelt/commands/CommandParts.h"
 #include "toolbelt/commands/Commands.h"
@@ -12,6 +15,13 @@ constexpr const char* kAnswers =
     "Each command is answered by one line of JSON. A line that begins with # or > is a\n"
     "comment.\n\n";
 
+// Makes the folder, so that a place where it can't be is a wrong command line.
+std::string FolderCanBeMade(const std::string& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  return std::filesystem::is_directory(folder) ? "" : folder + " can't be made a folder";
+}
+
 }  // namespace
 
 void AddDrive(CLI::App& belt, int& exit_code) {
@@ -24,6 +34,7 @@ void AddDrive(CLI::App& belt, int& exit_code) {
   command
       ->add_option("--user", settings->user,
                    "Where everything is written; without it, the content tree")
+      ->check(FolderCanBeMade)
       ->option_text("DIR");
   AddEditionAndSeed(*command, options);
   AddDrawingPath(*command, *path);

@@ -39,6 +39,7 @@ void AddRandom(CLI::App& belt, int& exit_code) {
                          {{0, "no fault was found"}, {3, "the game ended fatally"}}));
   command->callback([settings, path, &exit_code] {
     settings->options.window_path = *path == kWindowPath;
+    settings->from = ContentWord(settings->from);
     exit_code = PlayRandomly(*settings, std::cout, std::cerr);
   });
 }

@@ -29,6 +29,11 @@ void AddRender(CLI::App& belt, int& exit_code) {
           "Puts an object of the screen, such as dog or shelf/cup, into a state first; may "
           "be given several times")
       ->option_text("OBJECT=STATE")
+      ->check([](const std::string& pair) {
+        const std::size_t cut = pair.find('=');
+        const bool whole = cut != std::string::npos && cut > 0 && cut + 1 < pair.size();
+        return whole ? "" : "\"" + pair + "\" has not the form OBJECT=STATE";
+      })
       ->expected(1)
       ->take_all()
       ->excludes("--all");
@@ -49,6 +54,8 @@ void AddRender(CLI::App& belt, int& exit_code) {
     }
     settings->pointer = !*no_pointer;
     settings->options.window_path = *path == kWindowPath;
+    settings->screen = ContentWord(settings->screen);
+    for (std::string& state : settings->states) state = ContentWord(state);
     exit_code = RenderScreens(*settings, std::cerr);
   });
 }

@@ -22,8 +22,10 @@ void AddTree(CLI::App& belt, int& exit_code) {
                          {"quendle tree build/release/bin dogroom",
                           "quendle tree build/release/bin --json > objects.json"},
                          {{0, "all was printed"}, {3, "the game ended fatally"}}));
-  command->callback(
-      [settings, &exit_code] { exit_code = PrintTree(*settings, std::cout, std::cerr); });
+  command->callback([settings, &exit_code] {
+    settings->screen = ContentWord(settings->screen);
+    exit_code = PrintTree(*settings, std::cout, std::cerr);
+  });
 }
 
 }  // namespace quendle

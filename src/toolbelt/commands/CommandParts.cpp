@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "toolbelt/Utf8.h"
+
 namespace quendle {
 
 CLI::App* AddCommand(CLI::App& belt, const char* group, const char* name, const char* description) {
@@ -39,6 +41,8 @@ void AddDrawingPath(CLI::App& command, std::string& path) {
       ->option_text("PATH")
       ->capture_default_str();
 }
+
+std::string ContentWord(const std::string& word) { return FromUtf8(word).value_or(word); }
 
 std::string Footer(const std::string& text, const std::vector<std::string>& examples,
                    std::vector<ExitCode> exits) {

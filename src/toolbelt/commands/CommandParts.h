@@ -31,6 +31,10 @@ struct ExitCode {
   const char* meaning;
 };
 
+// A word of the command line as content writes it: 8-bit. What has no place there stays as it is,
+// and is the name of nothing.
+std::string ContentWord(const std::string& word);
+
 // The end of a command's help: further text (may be empty; each line as it stands), examples, and
 // exit codes. What every command has in common, 1 for a failed tool and 2 for a wrong command line,
 // is added where the command says nothing of its own.

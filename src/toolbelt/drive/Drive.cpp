@@ -96,11 +96,7 @@ int RunDriveSession(DriveSession& session, std::istream& in, std::ostream& out) 
 int RunDrive(const DriveSettings& settings) {
   namespace fs = std::filesystem;
   const std::string content = fs::canonical(settings.content).string();
-  std::string user;
-  if (!settings.user.empty()) {
-    fs::create_directories(settings.user);
-    user = fs::canonical(settings.user).string();
-  }
+  const std::string user = settings.user.empty() ? "" : fs::canonical(settings.user).string();
   std::ifstream file;
   if (!settings.file.empty()) {
     file.open(settings.file);

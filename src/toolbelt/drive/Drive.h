@@ -18,7 +18,7 @@ int RunDriveSession(DriveSession& session, std::istream& in, std::ostream& out);
 // `quendle drive`.
 struct DriveSettings {
   std::string content;  // native path of the content tree
-  std::string user;     // where everything is written; empty: the content tree
+  std::string user;     // a folder, where everything is written; empty: the content tree
   std::string file;     // commands; empty: standard input
   DriveOptions options;
 };

@@ -171,6 +171,10 @@ std::vector<ContentPiece> SmallestContent() {
 
 void MakeNewContent(const std::string& folder) {
   namespace fs = std::filesystem;
+  if (folder.empty()) throw std::runtime_error("a folder without a name can't be made");
+  if (fs::exists(folder) && !fs::is_directory(folder)) {
+    throw std::runtime_error(folder + ": is a file");
+  }
   if (fs::exists(folder) && !fs::is_empty(folder)) {
     throw std::runtime_error(folder + ": is there already and holds files");
   }
@@ -178,7 +182,11 @@ void MakeNewContent(const std::string& folder) {
   pieces.push_back({"\\README.md", std::string(NewContentReadme())});
   for (const ContentPiece& piece : pieces) {
     const fs::path path = NativePath(folder, piece.path);
-    fs::create_directories(path.parent_path());
+    std::error_code error;
+    fs::create_directories(path.parent_path(), error);
+    if (error) {
+      throw std::runtime_error(path.parent_path().string() + ": can't be made: " + error.message());
+    }
     std::ofstream file(path, std::ios::binary);
     file.write(piece.bytes.data(), static_cast<std::streamsize>(piece.bytes.size()));
     file.close();

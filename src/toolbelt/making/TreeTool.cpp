@@ -19,7 +19,10 @@ constexpr std::size_t kTypeColumn = 10;
 constexpr std::size_t kStateColumn = 22;
 
 std::string Padded(std::string text, std::size_t width) {
-  text.resize(std::max(text.size() + 2, width), ' ');
+  // Bytes behind the first of a letter take no column.
+  const auto more = std::ranges::count_if(text, [](char c) { return (c & 0xC0) == 0x80; });
+  const std::size_t columns = text.size() - static_cast<std::size_t>(more);
+  text.append(std::max<std::size_t>(2, width - std::min(width, columns)), ' ');
   return text;
 }
 

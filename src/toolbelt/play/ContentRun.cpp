@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <ostream>
+#include <stdexcept>
 
 #include "base/FatalError.h"
 #include "base/Text.h"
@@ -19,12 +20,25 @@ constexpr const char* kLeftByPlayers[] = {
     "userdata.txt",    "autosave.txt",        "HelpSys.txt",      "GameRunning.txt", "GameMode.txt",
     "Personalize.txt", "DifficultyLevel.txt", "GraphicsMode.txt", "DialogMode.txt"};
 
+// A folder that isn't a content tree is told as that, not by the first file that it lacks.
+void RequireContent(const std::string& folder) {
+  namespace fs = std::filesystem;
+  std::error_code error;
+  for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+    if (EqualsNoCase(at->path().filename().string(), "Info")) return;
+  }
+  throw std::runtime_error(folder + (error
+                                         ? ": " + error.message()
+                                         : ": there is no content: a tree has a folder \"Info\""));
+}
+
 }  // namespace
 
 ContentRun::ContentRun(const std::string& content, const DriveOptions& options)
     : base_(std::filesystem::canonical(content).string()),
       files_({base_, user_.Path(), ""}, faults_),
       session_(files_, faults_, base_, options) {
+  RequireContent(base_);
   for (const char* name : kLeftByPlayers) {
     const std::string path = base_ + "\\" + name;
     if (files_.Exists(path)) files_.Remove(path);

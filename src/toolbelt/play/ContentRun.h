@@ -18,7 +18,8 @@ inline constexpr int kGameFailed = 3;
 // and nothing is written into it.
 class ContentRun {
  public:
-  // `content` is a native path; a folder that isn't there throws std::filesystem::filesystem_error.
+  // `content` is a native path; a folder that isn't there throws std::filesystem::filesystem_error,
+  // one without content std::runtime_error.
   explicit ContentRun(const std::string& content, const DriveOptions& options = {});
 
   DriveSession& Session() { return session_; }

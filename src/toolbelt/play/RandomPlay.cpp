@@ -122,7 +122,7 @@ std::string Script(const RandomSettings& settings, const std::string& fault, con
   std::istringstream lines(ToUtf8(fault));
   for (std::string line; std::getline(lines, line);) script << "# " << line << "\n";
   for (const std::string& line : CommandsToPlay(settings.difficulty)) script << line << "\n";
-  if (!settings.from.empty()) script << "send cs_" << settings.from << "\n";
+  if (!settings.from.empty()) script << "send cs_" << ToUtf8(settings.from) << "\n";
   for (const std::string& event : events) script << event << "\n";
   return script.str();
 }

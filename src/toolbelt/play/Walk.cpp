@@ -71,10 +71,14 @@ int RunWalk(const WalkSettings& settings, std::ostream& out, std::ostream& error
 
 std::vector<std::string> ReadActionWords(const std::string& text) {
   std::vector<std::string> words;
+  // No tool has a name with a dot or a slash in it.
+  if (text.find_first_of("./\\") != std::string::npos && !std::filesystem::is_regular_file(text)) {
+    throw std::runtime_error(text + ": there is no such file");
+  }
   if (std::filesystem::is_regular_file(text)) {
     std::ifstream file(text);
     for (std::string line; std::getline(file, line);) {
-      const std::string_view word = TrimBlanks(line.substr(0, line.find('\r')));
+      const std::string_view word = TrimBlanks(std::string_view(line).substr(0, line.find('\r')));
       if (!word.empty() && word.front() != '#') words.emplace_back(word);
     }
   } else {

@@ -24,6 +24,10 @@ std::set<std::string> DarkFolders(const Findings& findings) {
 }  // namespace
 
 void CheckFiles(const CheckContext& context) {
+  for (const std::string& folder : context.gate.Listing().Closed()) {
+    context.findings.Add(Check::kUnreadable, "", {folder.substr(1), 0},
+                         "the folder can't be read: is it allowed?");
+  }
   const std::set<std::string> dark = DarkFolders(context.findings);
   for (const std::string& path : context.gate.Listing().Unused()) {
     if (!IsContent(path)) continue;  // executables, settings, saved games

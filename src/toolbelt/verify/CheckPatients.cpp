@@ -16,16 +16,19 @@ bool IsPatient(const ModelObject& object) {
 }
 
 // The tests of the engine's own check, in their order, each only if the one before passed.
-void CheckTwin(const CheckContext& context, const ModelObject& patient, const ObjState& state) {
+void CheckTwin(const CheckContext& context, Check check, const ModelObject& patient,
+               const ObjState& state) {
   if (!NeedsOwwwTwin(state.Name())) return;
   const std::string twin_name = state.Name() + "-owww";
   const ObjState* twin = patient.State(twin_name);
   const auto tell = [&](const ObjState& at, const std::string& text) {
-    context.Tell(Check::kOwwwTwin, patient, at.Place(), text);
+    context.Tell(check, patient, at.Place(), text);
   };
   if (twin == nullptr) {
+    std::vector<std::string> twins = patient.StateNames();
+    std::erase_if(twins, [](const std::string& name) { return !ContainsNoCase(name, "owww"); });
     tell(state, "Did not find a corresponding owww state for \"" + state.Name() + "\"" +
-                    DidYouMean(twin_name, patient.StateNames()));
+                    DidYouMean(twin_name, twins));
     return;
   }
   const ModelAnimation* animation = patient.Animation(twin->AnimationState());
@@ -166,13 +169,14 @@ void CheckPatients(const CheckContext& context) {
     if (IsPatient(*object)) {
       CheckRowOfStates(context, *object);
       for (const ObjState& state : object->states) {
-        if (CanBeHurt(*object, state)) CheckTwin(context, *object, state);
+        const Check check = CanBeHurt(*object, state) ? Check::kOwwwTwin : Check::kUnusedTwin;
+        CheckTwin(context, check, *object, state);
       }
     }
+    if (object->IsNamed("doctor")) CheckDoctor(context, *object);
     CheckSurgery(context, *object);
   }
   if (const ModelObject* doctor = context.model.Global("doctor")) {
-    CheckDoctor(context, *doctor);
     CheckSentStates(context, *doctor);
   } else {
     CheckNoDoctor(context);

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "object/VerifyRules.h"
 #include "toolbelt/verify/Checks.h"
 
 namespace quendle {
@@ -74,6 +75,15 @@ void CheckSequences(const CheckContext& context, const ModelObject& object,
   }
 }
 
+// The engine asks for it, whether anything leads there or not.
+bool IsTwin(const ModelObject& object, const ObjState& state) {
+  constexpr std::string_view kEnd = "-owww";
+  const std::string name = FoldCase(state.Name());
+  return object.IsType("patient") && name.ends_with(kEnd) &&
+         NeedsOwwwTwin(name.substr(0, name.size() - kEnd.size())) &&
+         object.State(name.substr(0, name.size() - kEnd.size())) != nullptr;
+}
+
 // Objects that share a state file may each enter other states of it.
 void CheckIdleStates(const CheckContext& context) {
   std::set<std::pair<std::string, int>> entered;
@@ -83,7 +93,8 @@ void CheckIdleStates(const CheckContext& context) {
   for (const ModelObjectRef& object : context.model.objects) {
     for (const ObjState& state : object->states) {
       // The game itself leads cells through their states.
-      if (object->role == ModelRole::kCell || context.flow.Enters(*object, state.Name())) {
+      if (object->role == ModelRole::kCell || context.flow.Enters(*object, state.Name()) ||
+          IsTwin(*object, state)) {
         entered.insert(key(state));
       }
     }

@@ -247,6 +247,10 @@ constexpr auto kRows = std::to_array<CheckRow>({
      "`<incrementstate>` goes from `default` to `better1`, `better2` and so on; a patient "
      "stays where the next one is missing.",
      "Add the state, or rename the ones behind it."},
+    {Check::kUnusedTwin, "V906", kNote, "a state without its twin that nothing hurts",
+     "The engine's own check asks for a twin of every state of a patient with `default` or "
+     "`better` in its name, though nothing in the state's script leads there.",
+     "Add the twin, or silence what is never hurt."},
 });
 
 }  // namespace

@@ -103,6 +103,7 @@ enum class Check {
   kDoctorState,
   kSurgery,
   kGapInRow,
+  kUnusedTwin,
 };
 
 // A check as it is told to authors. The texts are plain sentences, words of content in backticks.

@@ -38,13 +38,28 @@ ContentListing::ContentListing(const std::vector<std::string>& paths) {
 }
 
 ContentListing ContentListing::OfFolder(const std::string& folder) {
-  std::vector<std::string> paths;
-  const auto options = fs::directory_options::skip_permission_denied;
-  for (const auto& entry : fs::recursive_directory_iterator(folder, options)) {
-    if (!entry.is_regular_file()) continue;
-    paths.push_back(ContentPathOf(entry.path().lexically_relative(folder)));
+  std::vector<std::string> paths, closed;
+  std::vector<fs::path> open{folder};
+  while (!open.empty()) {
+    const fs::path inner = std::move(open.back());
+    open.pop_back();
+    std::error_code error;  // a link that leads round in circles is no file and no folder
+    for (fs::directory_iterator at(inner, error), end; !error && at != end; at.increment(error)) {
+      std::error_code unknown;
+      if (at->is_regular_file(unknown)) {
+        paths.push_back(ContentPathOf(at->path().lexically_relative(folder)));
+      } else if (!at->is_symlink(unknown) && at->is_directory(unknown)) {
+        open.push_back(at->path());
+      }
+    }
+    if (!error) continue;
+    const fs::path relative = inner.lexically_relative(folder);
+    closed.push_back(relative == "." ? "\\" : ContentPathOf(relative));
   }
-  return ContentListing(paths);
+  ContentListing listing(paths);
+  std::ranges::sort(closed);
+  listing.closed_ = std::move(closed);
+  return listing;
 }
 
 const std::vector<std::string>& ContentListing::NamesOf(std::string_view path) const {

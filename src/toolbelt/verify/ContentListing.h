@@ -16,6 +16,8 @@ class ContentListing {
 
   // All files below a folder of the disk.
   static ContentListing OfFolder(const std::string& folder);
+  // Folders that can't be read: what is in them isn't known.
+  const std::vector<std::string>& Closed() const { return closed_; }
 
   // Names of the file at `path` on the disk, case ignored; none when there is no such file, more
   // than one when names differ only in case.
@@ -38,6 +40,7 @@ class ContentListing {
     bool used = false;
   };
   std::map<std::string, File> files_;  // by path in small letters
+  std::vector<std::string> closed_;
 };
 
 }  // namespace quendle

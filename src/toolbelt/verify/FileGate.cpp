@@ -93,7 +93,17 @@ void FileGate::CheckCase(const NamedFile& file) {
 
 bool FileGate::Read(const NamedFile& file, const std::function<void(TextStream&)>& read) {
   if (!Names(file)) return false;
-  if (read_.insert(FoldCase(file.resolved)).second) CheckLines(file.resolved, file.object);
+  const std::string key = FoldCase(file.resolved);
+  if (closed_.contains(key)) return false;
+  if (read_.insert(key).second) {
+    if (!files_.Read(content_.BaseDirectory() + file.resolved)) {
+      closed_.insert(key);
+      findings_.Add(Check::kUnreadable, file.object, {DisplayName(file.resolved), 0},
+                    "the file is there and can't be read: is it allowed?");
+      return false;
+    }
+    CheckLines(file.resolved, file.object);
+  }
   return Guard(file.object, [&] {
     auto stream = content_.OpenTextFileChecked(content_.BaseDirectory() + file.resolved,
                                                OpenMode::kRead, false);

@@ -57,7 +57,8 @@ class FileGate {
   const ContentFiles& content_;
   ContentListing& listing_;
   Findings& findings_;
-  std::set<std::string> read_;  // folded paths whose lines were looked at
+  std::set<std::string> read_;    // folded paths whose lines were looked at
+  std::set<std::string> closed_;  // folded paths of those that can't be read
 };
 
 }  // namespace quendle

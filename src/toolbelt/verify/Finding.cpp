@@ -9,11 +9,7 @@
 namespace quendle {
 
 void Findings::Add(Check check, std::string object, FilePlace place, std::string text) {
-  const bool known = std::ranges::any_of(findings_, [&](const Finding& finding) {
-    return finding.check == check && finding.place.line == place.line &&
-           EqualsNoCase(finding.place.file, place.file) && finding.text == text;
-  });
-  if (known) return;
+  if (!known_.emplace(check, FoldCase(place.file), place.line, text).second) return;
   findings_.push_back({check, std::move(object), std::move(place), std::move(text), ""});
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "base/FatalError.h"
@@ -28,6 +30,8 @@ class Findings {
 
  private:
   std::vector<Finding> findings_;
+  // Check, folded file, line and text of each: a tree can have hundreds of thousands.
+  std::set<std::tuple<Check, std::string, int, std::string>> known_;
 };
 
 }  // namespace quendle

@@ -11,6 +11,13 @@ std::string Counted(std::size_t number, const char* noun) {
   return std::to_string(number) + " " + noun + (number == 1 ? "" : "s");
 }
 
+// Content may hold anything; a terminal obeys some of it, and a finding is one line.
+std::string OneLine(std::string text) {
+  const auto is_control = [](char c) { return (c >= 0 && c < ' ') || c == '\x7F'; };
+  std::ranges::replace_if(text, is_control, '?');
+  return ToUtf8(text);
+}
+
 }  // namespace
 
 FindingCounts Count(const Findings& findings) {
@@ -49,11 +56,11 @@ void PrintText(const Findings& findings, const ContentListing& listing, std::ost
     if (object == nullptr || *object != finding.object) {
       if (object != nullptr) out << "\n";
       object = &finding.object;
-      if (!object->empty()) out << ToUtf8(*object) << "\n";
+      if (!object->empty()) out << OneLine(*object) << "\n";
     }
     const CheckRow& row = RowOf(finding.check);
     out << ReportPath(finding.place, listing) << ":" << std::max(finding.place.line, 1) << ": "
-        << SeverityWord(row.severity) << " " << row.code << ": " << ToUtf8(finding.text) << "\n";
+        << SeverityWord(row.severity) << " " << row.code << ": " << OneLine(finding.text) << "\n";
   }
   const FindingCounts counts = Count(findings);
   if (object != nullptr) out << "\n";

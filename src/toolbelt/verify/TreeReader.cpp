@@ -27,17 +27,6 @@ constexpr const char* kFixedFiles[] = {"\\Info\\doodle.wma", "\\Info\\captions.t
 constexpr const char* kKeyPicture = "\\Info\\Tools\\tool.bmp";
 constexpr const char* kPersonFolder = "\\info\\globalreferences\\images\\person\\";
 
-class ListPaths : public PathResolver {
- public:
-  explicit ListPaths(std::string folder) : folder_(std::move(folder)) {}
-  std::string Resolve(std::string_view path) const override {
-    return ResolveDirectoryTokens(folder_, path);
-  }
-
- private:
-  std::string folder_;
-};
-
 // A file that the game names itself.
 NamedFile Fixed(const std::string& path) { return {path, path, {path.substr(1), 0}, ""}; }
 
@@ -88,7 +77,7 @@ void TreeReader::ReadGlobalScripts() {
   gate_.Read(Fixed(kScriptList), [&](TextStream& stream) { records = ReadScriptList(stream); });
   std::set<std::string> names;
   for (const ScriptListRecord& record : records) {
-    const ListPaths paths(FolderOfListLine(record.path, ""));
+    const FolderPaths paths(FolderOfListLine(record.path, ""));
     const NamedFile file{
         record.path, paths.Resolve(record.path), {record.place.file, record.place.line + 1}, ""};
     gate_.CheckEnds(record.name, record.place, "");

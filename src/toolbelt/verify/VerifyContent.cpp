@@ -1,7 +1,10 @@
 #include "toolbelt/verify/VerifyContent.h"
 
+#include <algorithm>
+
 #include "base/ContentFiles.h"
 #include "base/Settings.h"
+#include "base/Text.h"
 #include "toolbelt/Progress.h"
 #include "toolbelt/verify/Checks.h"
 #include "toolbelt/verify/SideList.h"
@@ -9,6 +12,13 @@
 
 namespace quendle {
 namespace {
+
+constexpr const char* kContentFolder = "\\Info\\";
+
+bool HoldsContent(const ContentListing& listing) {
+  return std::ranges::any_of(
+      listing.All(), [](const std::string& path) { return FindNoCase(path, kContentFolder) == 0; });
+}
 
 constexpr void (*kChecks[])(const CheckContext&) = {
     CheckObjects,  CheckStates,   CheckFrames,   CheckSpeech, CheckScripts,
@@ -23,6 +33,14 @@ Findings VerifyContent(VerifiedTree& tree, const SideList* side_list, Progress& 
   settings.BaseDirectory = tree.base;
   const ContentFiles content(tree.files, settings);
   Findings findings;
+  if (!HoldsContent(tree.listing)) {
+    // One word says it better than a row of missing files.
+    const bool closed = !tree.listing.Closed().empty();
+    findings.Add(closed ? Check::kUnreadable : Check::kMissingFile, "", {"Info", 0},
+                 closed ? "the content can't be read: is it allowed?"
+                        : "there is no content: a tree has a folder \"Info\" with files in it");
+    return findings;
+  }
   FileGate gate(tree.files, content, tree.listing, findings);
   const ContentModel model = TreeReader(gate, progress).Read();
   const ContentFlow flow(model);

@@ -31,9 +31,7 @@ struct CaptionLayerBench : testing::Test {
     key.sym = code;
     return layer.TakeKey(key);
   }
-  void Pass(int milliseconds) {
-    clock.AdvanceTo(clock.Monotonic() + Milliseconds(milliseconds));
-  }
+  void Pass(int milliseconds) { clock.AdvanceTo(clock.Monotonic() + Milliseconds(milliseconds)); }
   // What stands over the frame now, in pixels of the output; empty for nothing.
   Rect Seen(bool anew = false) {
     if (const LayerContents* contents = layer.Update(view, anew)) seen = *contents;
