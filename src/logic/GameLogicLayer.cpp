@@ -94,9 +94,12 @@ void GameLogicLayer::StartMusic() {
 ObjectRef GameLogicLayer::RequireScreen(const std::string& name) {
   ObjectRef screen = m_ptrScreenKeeper->GetScreen(name);
   if (screen != nullptr) return screen;
+  // A message leads to the script that asks for the screen; what the game itself needs, the list
+  // lacks.
+  const bool asked = world_.watch.depth.Depth() > 0;
   throw FatalError(
       "there is no screen \"" + name + "\"" + DidYouMean(name, m_ptrScreenKeeper->Table().Keys()),
-      {"Info\\screens.txt", 0});
+      asked ? FilePlace{} : FilePlace{"Info\\screens.txt", 0});
 }
 
 void GameLogicLayer::TurnOff() {
