@@ -91,7 +91,9 @@ TEST_F(GameLogicLayerTest, AMissingIntroToolsOrCursorsScreenIsFatalAndNamed) {
     std::string list = bench.File("\\Info\\screens.txt");
     list.erase(list.find(ObjectPath(name)), ObjectPath(name).size() + 1);
     bench.files.Put("\\Info\\screens.txt", list);
-    EXPECT_THAT(Fault([&] { bench.Start(); }), HasSubstr(std::string("\"") + name + "\""));
+    const std::string fault = Fault([&] { bench.Start(); });
+    EXPECT_THAT(fault, HasSubstr(std::string("\"") + name + "\""));
+    EXPECT_THAT(fault, HasSubstr("Info\\screens.txt"));
   }
 }
 
