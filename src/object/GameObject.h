@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@
 #include "object/ObjState.h"
 #include "object/ObjectWorld.h"
 #include "object/Region.h"
+#include "script/Program.h"
 
 namespace quendle {
 
@@ -150,7 +152,28 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   const Region* RegionUnder(int x, int y) const;
   Watch& GetWatch() const { return world_.watch; }
 
+  // True if an event at that point, relative to the parent, surely changes nothing: the object is
+  // hidden, or it lies elsewhere, has no children, and its script is known to carry out nothing for
+  // `elsewhere`, the text of such an event. A text of no table is never known.
+  bool IsDeafTo(int x, int y, const ActionText& elsewhere) const {
+    if (!Visible_) return true;
+    const Heard* heard = FindHeard(elsewhere);
+    return heard != nullptr && heard->first_act == Program::kNoAct && Children_.Empty() &&
+           !InBox(x, y) && !(x == -1 && y == -1);
+  }
+
  private:
+  // An action text, and where the current script begins to act on it. At most events an object
+  // gets the same text as before, usually that the pointer is somewhere else.
+  struct Heard {
+    const ActionText* action = nullptr;
+    std::uint32_t first_act = Program::kNoAct;
+  };
+  const Heard* FindHeard(const ActionText& action) const {
+    if (heard_[0].action == &action) return &heard_[0];
+    return heard_[1].action == &action ? &heard_[1] : nullptr;
+  }
+
   // One message on its way through the table of verbs.
   struct MessageCall;
   struct MessageRow;
@@ -177,6 +200,8 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   void RunSoundStatement(const std::string& name);
   bool HurtPatientStartsOver();
   void ResetSurgeryMachine();
+  void SetCurrentScript(std::shared_ptr<ScriptState> script);
+  std::uint32_t FirstActFor(const ActionText& action);
   void RunStateScript(const ActionText& action);
   void Execute(const ScriptState& script, const ActionText& action);
 
@@ -189,7 +214,13 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   void ShowFirstFrame(const AnimationFrame& frame);
   bool LastSoundIsSilent();
 
-  // Hit test.
+  // Hit test. The box is that of the first frame, its edges belong to it; y = -1 asks about the
+  // horizontal only.
+  bool InBox(int x, int y) const {
+    const int dx = x - xpos_;
+    const int dy = y - ypos_;
+    return y == -1 ? dx >= 0 && dx < width_ : dx >= 0 && dy >= 0 && dx <= width_ && dy <= height_;
+  }
   const AnimationFrame* HitFrame(int x, int y, int& offset_x, int& offset_y) const;
   const std::vector<Region>* RegionsAt(int x, int y, int& offset_x, int& offset_y) const;
   const std::string& GetRegionAtPoint(int x, int y);
@@ -222,6 +253,7 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   // Looked at on every event, and so side by side in memory.
   GameObjectInterface* SelfReference_ = nullptr;  // owns this object, or null before the load
   std::shared_ptr<ScriptState> current_script_;   // of the current state; null for "nothing"
+  std::array<Heard, 2> heard_{};                  // by current_script_, the latest first
   std::unique_ptr<ObjectPicture> picture_;        // constant after the load, until Release
   std::vector<FrameRef> CurrentFrames_;
   std::int16_t xpos_ = 0;

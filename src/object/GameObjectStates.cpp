@@ -34,7 +34,7 @@ std::string GameObject::ProcessState(const std::string& name) {
   }
   m_ptrCurrObjState = state;
   const std::string& script = state->ScriptState();
-  current_script_ = EqualsNoCase(script, kNothing) ? nullptr : FindOrNull(Scripts_, script);
+  SetCurrentScript(EqualsNoCase(script, kNothing) ? nullptr : FindOrNull(Scripts_, script));
   if (ObjectOn_) {
     RunSoundOfState(state->SoundState());
     RunAnimation(state->AnimationState());

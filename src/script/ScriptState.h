@@ -29,6 +29,7 @@ class ScriptState {
   void PrintScript(std::vector<std::string>& lines) const { root_->PrintCommand(lines); }
 
   const Command& Root() const { return *root_; }
+  const Program& Steps() const { return program_; }
 
  private:
   Program program_;                                              // of root_
