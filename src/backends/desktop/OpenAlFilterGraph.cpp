@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <thread>
+#include <utility>
 
 #include "backends/desktop/OpenAlFilterGraphs.h"
 
