@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "backends/desktop/SdlEventTarget.h"
-#include "backends/desktop/TextPainter.h"
+#include "backends/forms/TextPainter.h"
 
 struct SDL_Window;
 

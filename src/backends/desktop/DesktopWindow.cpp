@@ -191,7 +191,9 @@ bool DesktopWindow::UpdateLayers() {
 bool DesktopWindow::SendToLayers(const SDL_Event& event) {
   auto takes = [&event](FrameLayer* layer) {
     if (event.type == SDL_MOUSEWHEEL) return layer->TakeWheel(event.wheel.y);
-    return event.type == SDL_KEYDOWN && event.key.repeat == 0 && layer->TakeKey(event.key.keysym);
+    if (event.type != SDL_KEYDOWN || event.key.repeat != 0) return false;
+    const std::optional<FunctionKey> key = FunctionKeyOf(event.key.keysym);
+    return key && layer->TakeKey(*key);
   };
   if (!std::ranges::any_of(layers_, takes)) return false;
   stale_ = true;

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "backends/desktop/FormPointer.h"
+#include "backends/forms/FormPointer.h"
 #include "base/Text.h"
 
 namespace quendle {

@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-#include "backends/desktop/IconArt.h"
-#include "backends/desktop/Palette.h"
+#include "backends/forms/IconArt.h"
+#include "backends/forms/Palette.h"
 
 namespace quendle {
 
@@ -28,6 +28,17 @@ std::optional<FormKey> FormKeyOf(const SDL_Keysym& key) {
       return FormKey::kEnter;
     case SDLK_ESCAPE:
       return FormKey::kEscape;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<FunctionKey> FunctionKeyOf(const SDL_Keysym& key) {
+  switch (key.sym) {
+    case SDLK_F2:
+      return FunctionKey::kF2;
+    case SDLK_F12:
+      return FunctionKey::kF12;
     default:
       return std::nullopt;
   }

@@ -3,7 +3,8 @@
 
 #include <optional>
 
-#include "backends/desktop/FormInput.h"
+#include "backends/forms/FormInput.h"
+#include "backends/forms/FrameLayer.h"
 #include "platform/Form.h"
 #include "platform/Geometry.h"
 
@@ -15,6 +16,9 @@ namespace quendle {
 
 // The key of a form; nothing for any other.
 std::optional<FormKey> FormKeyOf(const SDL_Keysym& key);
+
+// The key of the layers over the frame; nothing for any other.
+std::optional<FunctionKey> FunctionKeyOf(const SDL_Keysym& key);
 
 // Button numbers of the game: left 1, right 2, middle 4; other buttons 0.
 int ButtonNumber(int button);

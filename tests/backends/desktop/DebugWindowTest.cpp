@@ -5,6 +5,8 @@
 
 #include "backends/desktop/DesktopClock.h"
 #include "backends/desktop/DesktopEventLoop.h"
+#include "backends/desktop/FontFinder.h"
+#include "backends/desktop/SdlFonts.h"
 #include "backends/desktop/SdlLibrary.h"
 #include "platform/TextSource.h"
 
@@ -72,7 +74,7 @@ struct DebugWindowBench : testing::Test {
   SdlLibrary library;
   DesktopClock clock;
   DesktopEventLoop loop{clock};
-  FontFinder fonts{FontFinder::SystemFolders()};
+  SdlFonts fonts{FontFinder(FontFinder::SystemFolders())};
   TextPainter painter{fonts};
   Lines text;
   std::shared_ptr<DebugWindow> window = std::make_shared<DebugWindow>(painter, text);

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "backends/desktop/DesktopClock.h"
+#include "backends/desktop/FontFinder.h"
+#include "backends/desktop/SdlFonts.h"
 #include "backends/desktop/SdlLibrary.h"
 #include "backends/raster/RasterScreen.h"
 
@@ -88,7 +90,7 @@ class DesktopWindowTest : public ::testing::Test {
   SdlLibrary library_;
   DesktopClock clock_;
   DesktopEventLoop loop_{clock_};
-  FontFinder fonts_{{}};
+  SdlFonts fonts_{FontFinder({})};
   TextPainter text_{fonts_};
   FormPainter painter_{text_};
   RasterScreen screen_;
