@@ -2,11 +2,6 @@
 
 #include <SDL.h>
 
-#include <cmath>
-
-#include "backends/forms/IconArt.h"
-#include "backends/forms/Palette.h"
-
 namespace quendle {
 
 std::optional<FormKey> FormKeyOf(const SDL_Keysym& key) {
@@ -71,11 +66,6 @@ int ShiftBits() {
          ((mod & KMOD_ALT) != 0 ? 4 : 0);
 }
 
-Point FormPlace::ToForm(int x, int y) const {
-  return {static_cast<int>(std::floor((x + 0.5 - left) / scale)),
-          static_cast<int>(std::floor((y + 0.5 - top) / scale))};
-}
-
 void SendToForm(const SDL_Event& event, FormInput& input, const FormPlace& place) {
   switch (event.type) {
     case SDL_MOUSEMOTION:
@@ -114,19 +104,6 @@ void SendToForm(const SDL_Event& event, FormInput& input, const FormPlace& place
     default:
       break;
   }
-}
-
-void SetIcon(SDL_Window* window) {
-  constexpr int kSide = 64;
-  Canvas canvas({kSide, kSide}, 1);
-  canvas.Clear(palette::kPeach);
-  DrawPuppy(canvas, {kSide / 2.0, kSide / 2.0}, kSide * 0.46, true);
-  std::vector<std::uint32_t> pixels = canvas.Pixels();
-  SDL_Surface* icon = SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), kSide, kSide, 32, kSide * 4,
-                                                         SDL_PIXELFORMAT_ARGB8888);
-  if (icon == nullptr) return;
-  SDL_SetWindowIcon(window, icon);
-  SDL_FreeSurface(icon);
 }
 
 }  // namespace quendle

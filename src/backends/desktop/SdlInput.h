@@ -4,13 +4,12 @@
 #include <optional>
 
 #include "backends/forms/FormInput.h"
+#include "backends/forms/FormPlace.h"
 #include "backends/forms/FrameLayer.h"
 #include "platform/Form.h"
-#include "platform/Geometry.h"
 
 union SDL_Event;
 struct SDL_Keysym;
-struct SDL_Window;
 
 namespace quendle {
 
@@ -27,17 +26,7 @@ int ButtonBits(unsigned state);
 // Shift 1, Ctrl 2, Alt 4.
 int ShiftBits();
 
-// Hands a key, text or pointer event to a form. `to_form` gives the form's pixel for a window
-// position, as SIZE times scale behind an origin.
-struct FormPlace {
-  double left = 0;
-  double top = 0;
-  double scale = 1;  // window units a form pixel
-  Point ToForm(int x, int y) const;
-};
+// Hands a key, text or pointer event to the form that stands at `place`.
 void SendToForm(const SDL_Event& event, FormInput& input, const FormPlace& place);
-
-// Gives a window the game's own icon.
-void SetIcon(SDL_Window* window);
 
 }  // namespace quendle

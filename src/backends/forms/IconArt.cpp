@@ -206,4 +206,12 @@ void DrawCross(Canvas& canvas, Vec c, double r, Rgba color) {
   canvas.Stroke(Path().MoveTo(c.x + arm, c.y - arm).LineTo(c.x - arm, c.y + arm), r * 0.3, color);
 }
 
+Canvas GameIcon() {
+  constexpr int kSide = 64;
+  Canvas canvas({kSide, kSide}, 1);
+  canvas.Clear(palette::kPeach);
+  DrawPuppy(canvas, {kSide / 2.0, kSide / 2.0}, kSide * 0.46, true);
+  return canvas;
+}
+
 }  // namespace quendle

@@ -23,4 +23,7 @@ void DrawFolder(Canvas& canvas, Vec centre, double radius);
 void DrawTick(Canvas& canvas, Vec centre, double radius, Rgba color);
 void DrawCross(Canvas& canvas, Vec centre, double radius, Rgba color);
 
+// The icon of the game's windows.
+Canvas GameIcon();
+
 }  // namespace quendle
