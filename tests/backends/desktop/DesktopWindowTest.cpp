@@ -216,7 +216,7 @@ TEST_F(DesktopWindowTest, ABoxOverTheFrameTakesInputAndShowsThePointer) {
 
 class Layer : public FrameLayer {
  public:
-  bool TakeKey(const SDL_Keysym& key) override { return key.sym == SDLK_F2; }
+  bool TakeKey(FunctionKey key) override { return key == FunctionKey::kF2; }
   bool TakeWheel(int steps) override { return steps > 0; }
   const LayerContents* Update(const LayerView& view, bool anew) override {
     views.push_back(view);

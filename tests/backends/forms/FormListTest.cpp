@@ -20,8 +20,8 @@ TEST(FormList, TheFirstThatIsVisibleAndEnabledIsInView) {
   Form greyed;
   Form first;
   Form second;
+  for (Form* form : {&hidden, &greyed, &first, &second}) form->visible = form->enabled = true;
   hidden.visible = false;
-  greyed.visible = first.visible = second.visible = true;
   greyed.enabled = false;
   FormList list;
   EXPECT_EQ(list.InView(), nullptr);
