@@ -13,6 +13,7 @@
 #include <iterator>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "backends/raster/RasterDirectDraw.h"

@@ -1,6 +1,7 @@
 // The files that an object is made of, read into plain records.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>

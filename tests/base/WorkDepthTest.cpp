@@ -1,3 +1,6 @@
+#include <new>
+#include <utility>
+
 #include "base/WorkDepth.h"
 
 #include <gtest/gtest.h>

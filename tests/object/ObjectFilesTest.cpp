@@ -1,4 +1,6 @@
 // The readers of an object's files.
+#include <cstddef>
+
 #include <gtest/gtest.h>
 
 #include "object/AnimationFile.h"

@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "personalize/FaceFilter.h"
 
 #include <gtest/gtest.h>

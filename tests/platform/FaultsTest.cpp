@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "platform/Faults.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 #include "toolbelt/drive/Drive.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>

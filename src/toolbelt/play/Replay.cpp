@@ -1,5 +1,6 @@
 #include "toolbelt/play/Replay.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>

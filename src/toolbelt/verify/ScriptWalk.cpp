@@ -1,6 +1,7 @@
 #include "toolbelt/verify/ScriptWalk.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/FatalError.h"
 #include "base/Text.h"
