@@ -44,13 +44,9 @@ class TandrelPrompt : public PictureForm, public StartUpForm {
 
   SettingsFiles& Files() { return settings_files_; }
 
- protected:
-  void ButtonCommand(int index) override { OnButtonPress(index); }
-
  private:
   void BuildForm();
   void ChooseEdition();
-  void OnButtonPress(int index);
   void EndIfAnotherInstanceRuns();
   void AskAboutOldSystem();
   void AskAfterCrash();
