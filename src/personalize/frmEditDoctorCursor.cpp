@@ -98,7 +98,7 @@ std::unique_ptr<MemoryBitmap> frmEditDoctorCursor::Load(const char* name) {
     throw FatalError("the picture " + services_.files.DisplayName(path) +
                      " can't be loaded: " + gdi.WhyNotLoaded());
   }
-  return std::make_unique<MemoryBitmap>(gdi, bitmap);
+  return std::make_unique<MemoryBitmap>(gdi, 0, bitmap);
 }
 
 void frmEditDoctorCursor::Move(int x, int y) {

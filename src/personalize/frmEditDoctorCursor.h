@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "personalize/MemoryBitmap.h"
+#include "media/MemoryBitmap.h"
 #include "personalize/WizardForm.h"
 
 namespace quendle {

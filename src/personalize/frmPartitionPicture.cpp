@@ -86,7 +86,7 @@ void frmPartitionPicture::LoadImage(const std::string& path) {
   }
   picture_ = std::move(loaded.picture);
   Gdi& gdi = personalize_.gdi;
-  photograph_ = std::make_unique<MemoryBitmap>(gdi, gdi.CreatePictureBitmap(*picture_));
+  photograph_ = std::make_unique<MemoryBitmap>(gdi, 0, gdi.CreatePictureBitmap(*picture_));
   Image().image = picture_;
   Image().visible = true;
   FitScrollBars();

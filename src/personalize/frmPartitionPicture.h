@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "personalize/MemoryBitmap.h"
+#include "media/MemoryBitmap.h"
 #include "personalize/Outline.h"
 #include "personalize/WizardForm.h"
 
