@@ -27,6 +27,8 @@ void DialogForm::Finish() {
 
 void DialogForm::QueryClose() { CloseWindow(); }
 
+void DialogForm::EndProgram() { prompt_.Unload(); }
+
 void DialogForm::CloseWindow() { BackToPrompt(); }
 
 void DialogForm::BackToPrompt() {

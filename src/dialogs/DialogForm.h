@@ -14,6 +14,7 @@ class DialogForm : public PictureForm {
   void Show() { SetShown(true); }
 
   void QueryClose() override;
+  void EndProgram() override;
 
  protected:
   // `prompt` outlives the dialog.

@@ -35,6 +35,8 @@ void WizardForm::Finish() {
   Register();
 }
 
+void WizardForm::EndProgram() { personalize_.prompt.Unload(); }
+
 void WizardForm::CloseWindow() { BackToPrompt(); }
 
 void WizardForm::BackToPrompt() {

@@ -13,6 +13,7 @@ class WizardForm : public PictureForm {
  public:
   void Show() { SetShown(true); }
   void QueryClose() override { CloseWindow(); }
+  void EndProgram() override;
 
  protected:
   WizardForm(const PersonalizeServices& services, std::string name, Size size);

@@ -32,7 +32,7 @@ class TandrelPrompt : public PictureForm, public StartUpForm {
   void Load();
 
   // The window is destroyed without being asked to close: saves the options and ends the process.
-  [[noreturn]] void Unload();
+  [[noreturn]] void Unload() override;
 
   void Show() override;
   void btnNormal_Click() override;
