@@ -71,6 +71,13 @@ function(quendle_scenarios)
   set_tests_properties(scenario.photograph_stays PROPERTIES
     TIMEOUT 300 LABELS scenario SKIP_RETURN_CODE 77
     ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  if(TARGET wumbly)
+    add_test(NAME scenario.ended_by_the_system
+             COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/scenarios/ended_by_the_system.py
+                     $<TARGET_FILE:wumbly> ${QUENDLE_CONTENT_DIR})
+    set_tests_properties(scenario.ended_by_the_system PROPERTIES
+      TIMEOUT 300 LABELS scenario ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  endif()
 endfunction()
 
 # Every session tests/recordings/NAME.txt becomes the test `recording.NAME`.

@@ -42,7 +42,7 @@ GameLogicLayer::GameLogicLayer(ObjectWorld& world, GameHost& host) : world_(worl
 
 GameLogicLayer::~GameLogicLayer() {
   KillDrawTimer();
-  DropBackBuffer();
+  back_buffer_.reset();
 }
 
 void GameLogicLayer::Initialize(ContextHandle window_context, const std::string& saved_game) {
@@ -50,7 +50,7 @@ void GameLogicLayer::Initialize(ContextHandle window_context, const std::string&
   m_ptrScreenKeeper = std::make_unique<ScreenKeeper>(world_);
   m_ptrScreenKeeper->InitializeScreenKeeper("\\Info\\screens.txt", weak_from_this(),
                                             window_context);
-  MakeBackBuffer(window_context);
+  back_buffer_.emplace(world_.media.ports.gdi, window_context, Size{kFrameWidth, kFrameHeight});
   ReadHelpMemory();
   m_ptrScreenKeeper->LoadGame(saved_game);
 }
@@ -126,7 +126,7 @@ void GameLogicLayer::Release() {
   world_.TimedObjects.Clear();
   m_ptrScreenKeeper.reset();
   KillDrawTimer();
-  DropBackBuffer();
+  back_buffer_.reset();
   m_ptrMusic.reset();
   walk_ = nullptr;
   if (std::shared_ptr<InputRecorder> tester = m_ptrTester.lock()) tester->Detach();
@@ -137,18 +137,6 @@ void GameLogicLayer::KillDrawTimer() {
   if (m_nDrawTimer == 0) return;
   world_.media.ports.timers.KillTimer(m_nDrawTimer);
   m_nDrawTimer = 0;
-}
-
-void GameLogicLayer::MakeBackBuffer(ContextHandle window_context) {
-  Gdi& gdi = world_.media.ports.gdi;
-  back_context_ = gdi.CreateCompatibleDC(window_context);
-  back_bitmap_ = gdi.CreateCompatibleBitmap(window_context, kFrameWidth, kFrameHeight);
-  gdi.SelectObject(back_context_, back_bitmap_);
-}
-
-void GameLogicLayer::DropBackBuffer() {
-  if (back_context_ != 0) world_.media.ports.gdi.DeleteDC(std::exchange(back_context_, 0));
-  if (back_bitmap_ != 0) world_.media.ports.gdi.DeleteObject(std::exchange(back_bitmap_, 0));
 }
 
 // A recorded event of content would come twice when the record is played.
@@ -211,7 +199,7 @@ void GameLogicLayer::draw() {
   if (world_.media.UseDirectX) {
     PresentDirectX(world_.media);
   } else {
-    PresentWindow(world_.media, back_context_);
+    PresentWindow(world_.media, BackContext());
   }
 }
 
@@ -233,7 +221,7 @@ void GameLogicLayer::Compose() {
     if (world_.media.UseDirectX) {
       layer->RefreshDirectX(*world_.media.off_screen_surface, 0, 0);
     } else {
-      layer->Refresh(back_context_, 0, 0);
+      layer->Refresh(BackContext(), 0, 0);
     }
   }
 }

@@ -10,6 +10,7 @@
 
 #include "base/Words.h"
 #include "logic/GameHost.h"
+#include "media/MemoryBitmap.h"
 #include "object/ObjectWorld.h"
 #include "screens/ScreenKeeper.h"
 
@@ -99,7 +100,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   const SoundState* Music() const { return m_ptrMusic.get(); }
   ScreenKeeper* Keeper() const { return m_ptrScreenKeeper.get(); }
   // The window path's back buffer; 0 before Initialize.
-  ContextHandle BackContext() const { return back_context_; }
+  ContextHandle BackContext() const { return back_buffer_ ? back_buffer_->Context() : 0; }
 
  private:
   struct Call;
@@ -143,8 +144,6 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void CountDraw();
   void ReadHelpMemory();
   void WriteHelpMemory() const;
-  void MakeBackBuffer(ContextHandle window_context);
-  void DropBackBuffer();
   void KillDrawTimer();
   void TakeWalkStep(const std::function<void(ScreenWalk&)>& step);
   void VisitScreen(const ScreenWalk& walk);
@@ -156,8 +155,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
 
   // Valid from Initialize to Release.
   std::unique_ptr<ScreenKeeper> m_ptrScreenKeeper;
-  ContextHandle back_context_ = 0;
-  int back_bitmap_ = 0;
+  std::optional<MemoryBitmap> back_buffer_;
 
   // Change in play.
   ObjectRef m_ptrToolsScreen;

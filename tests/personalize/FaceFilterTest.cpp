@@ -8,20 +8,20 @@ namespace quendle {
 namespace {
 
 TEST(FaceFilter, FloorIsHalfBelowRoundedToEven) {
-  EXPECT_EQ(face::floor(1.0), 0);
-  EXPECT_EQ(face::floor(2.0), 2);
-  EXPECT_EQ(face::floor(3.0), 2);
-  EXPECT_EQ(face::floor(0.0), 0);
-  EXPECT_EQ(face::floor(0.4), 0);
-  EXPECT_EQ(face::floor(1.7), 1);
-  EXPECT_EQ(face::floor(-1.0), -2);
+  EXPECT_EQ(face::HalfBelowToEven(1.0), 0);
+  EXPECT_EQ(face::HalfBelowToEven(2.0), 2);
+  EXPECT_EQ(face::HalfBelowToEven(3.0), 2);
+  EXPECT_EQ(face::HalfBelowToEven(0.0), 0);
+  EXPECT_EQ(face::HalfBelowToEven(0.4), 0);
+  EXPECT_EQ(face::HalfBelowToEven(1.7), 1);
+  EXPECT_EQ(face::HalfBelowToEven(-1.0), -2);
 }
 
 TEST(FaceFilter, CeilingIsHalfAboveRoundedToEven) {
-  EXPECT_EQ(face::ceiling(1.0), 2);
-  EXPECT_EQ(face::ceiling(2.0), 2);
-  EXPECT_EQ(face::ceiling(3.0), 4);
-  EXPECT_EQ(face::ceiling(0.2), 1);
+  EXPECT_EQ(face::HalfAboveToEven(1.0), 2);
+  EXPECT_EQ(face::HalfAboveToEven(2.0), 2);
+  EXPECT_EQ(face::HalfAboveToEven(3.0), 4);
+  EXPECT_EQ(face::HalfAboveToEven(0.2), 1);
 }
 
 TEST(FaceFilter, RedIsInTheLowByte) {

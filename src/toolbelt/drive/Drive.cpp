@@ -11,7 +11,6 @@
 #include "backends/files/DiskFileSystem.h"
 #include "base/FatalError.h"
 #include "base/Text.h"
-#include "toolbelt/Utf8.h"
 #include "toolbelt/drive/DriveCommand.h"
 #include "toolbelt/drive/Views.h"
 

@@ -8,7 +8,6 @@
 #include "base/FatalError.h"
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
-#include "toolbelt/Utf8.h"
 #include "toolbelt/drive/Arguments.h"
 #include "toolbelt/drive/Drive.h"
 

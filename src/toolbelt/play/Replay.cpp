@@ -17,7 +17,6 @@
 #include "diagnostics/UserActionObj.h"
 #include "toolbelt/Progress.h"
 #include "toolbelt/TemporaryFolder.h"
-#include "toolbelt/Utf8.h"
 #include "toolbelt/drive/Drive.h"
 
 namespace quendle {
