@@ -39,7 +39,7 @@ TEST_F(ClickTrailTest, TellsWhatWasHitWhichBranchMatchedAndWhatWasSent) {
   const Lines told = Told(trail);
   EXPECT_THAT(Lines(told.begin(), told.begin() + 6),
               ElementsAre("H start<: ", "S start<click: handmouseclick",
-                          "B start<Info\\start\\script-click.txt:2: if action = *handmouseclick",
+                          "B start<Info\\start\\script_click.txt:2: if action = *handmouseclick",
                           "D start<: mtp cs_floor1hall1", "M introscreen<start: cs_floor1hall1",
                           "M GameLogic<introscreen: cs_floor1hall1"));
 }
@@ -61,7 +61,7 @@ TEST_F(ClickTrailTest, AScriptThatActsOnAClickElsewhereIsTold) {
   Start();
   Click(700, 20);
   EXPECT_THAT(Told(trail), ElementsAre("S start<click: handmouseclicknot",
-                                       "B start<Info\\start\\script-click.txt:2: if action = *not",
+                                       "B start<Info\\start\\script_click.txt:2: if action = *not",
                                        "D start<: change better1", "T start<default: better1"));
 }
 

@@ -98,7 +98,7 @@ TEST_F(Music, MusicThatWasStartedByAMessageWhileAwayForgetsItsPlace) {
 TEST_F(Music, MusicThatHasEndedIsNotPaused) {
   Start();
   Graph().position = 10;
-  Graph().completed = true;
+  Graph().over = true;
   logic->PauseSound();
   logic->PlaySound();
   EXPECT_EQ(Graph().position, 0);

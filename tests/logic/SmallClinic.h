@@ -6,7 +6,7 @@
 
 #include "backends/files/MemoryFileSystem.h"
 #include "logic/IllnessFiles.h"
-#include "screens/ContentText.h"
+#include "support/ObjectText.h"
 
 namespace quendle {
 
@@ -134,7 +134,7 @@ inline void PutSmallClinic(MemoryFileSystem& files) {
   files.Put("\\Info\\globalsoundstates.txt", "");
   files.Put("\\Info\\globalscriptstates.txt", "");
   files.Put("\\info\\doodle.wma", "music");
-  files.Put("\\info\\tools\\tool.bmp", Filled(1, 1, 0xC8C8C8));
+  files.Put("\\info\\tools\\tool.bmp", Filled(1, 1, 'k'));
   PutGlobals(files);
   PutRooms(files);
   PutFixtures(files);

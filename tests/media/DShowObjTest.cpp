@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "base/FatalError.h"
-#include "media/FakeGraphs.h"
+#include "support/FakeSounds.h"
 
 namespace quendle {
 namespace {
@@ -14,7 +14,7 @@ using Calls = std::vector<std::string>;
 
 class DShowObjTest : public ::testing::Test {
  protected:
-  FakeGraphs graphs_;
+  FakeSounds graphs_;
   DShowObj player_{graphs_};
 };
 
@@ -87,7 +87,7 @@ TEST_F(DShowObjTest, PlaysFromPlayUntilTheEndAlsoWhilePaused) {
   EXPECT_TRUE(player_.StillPlaying(0));
   player_.Pause();
   EXPECT_TRUE(player_.StillPlaying(0));
-  graphs_.Last().completed = true;
+  graphs_.Last().over = true;
   EXPECT_FALSE(player_.StillPlaying(0));
 }
 

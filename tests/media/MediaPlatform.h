@@ -18,7 +18,6 @@
 #include "base/SeededRandom.h"
 #include "base/Settings.h"
 #include "base/TimerQueue.h"
-#include "media/FakeGraphs.h"
 #include "media/MediaWorld.h"
 #include "media/SoundState.h"
 #include "platform/Boxes.h"
@@ -27,6 +26,7 @@
 #include "platform/GameWindow.h"
 #include "platform/Ports.h"
 #include "platform/SystemServices.h"
+#include "support/FakeSounds.h"
 
 namespace quendle {
 
@@ -107,7 +107,7 @@ struct MediaPlatform {
   TimerQueue timers{clock};
   SeededRandom random{1};
   NotedBoxes boxes;
-  FakeGraphs graphs;
+  FakeSounds graphs;
   StillWindow window{gdi.WindowContext()};
   NoForms forms;
   NoServices system;

@@ -37,7 +37,7 @@ class SoundStateTest : public ::testing::Test {
   }
 
   MediaPlatform platform_;
-  FakeGraphs& graphs_ = platform_.graphs;
+  FakeSounds& graphs_ = platform_.graphs;
   std::shared_ptr<Speaker> speaker_ = std::make_shared<Speaker>(graphs_);
 };
 
@@ -171,7 +171,7 @@ TEST_F(SoundStateTest, TheLoopWordIsKeptAndRepeatsNothing) {
   state->SetLoopState("LOOP");
   EXPECT_TRUE(state->DoWeLoop());
   state->PlaySound();
-  graphs_.Last().completed = true;
+  graphs_.Last().over = true;
   EXPECT_FALSE(state->IsPlaying());
   state->SetLoopState("loops");
   EXPECT_FALSE(state->DoWeLoop());

@@ -1,42 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <regex>
-#include <sstream>
-
 #include "support/ObjectBench.h"
 
 namespace quendle {
 namespace {
-
-// The source of the header. The path of this file may be relative to the folder of the build, in
-// whose folder "tests" this program stands.
-std::string InterfaceHeader() {
-  const auto program = std::filesystem::read_symlink("/proc/self/exe");
-  const auto here = program.parent_path().parent_path() / __FILE__;
-  std::ifstream file(here.parent_path() / "../../src/object/GameObjectInterface.h");
-  std::stringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
-TEST(GameObjectInterface, HasExactlySixtyFiveOperations) {
-  std::string header = InterfaceHeader();
-  const std::size_t begin = header.find("class GameObjectInterface : ");
-  ASSERT_NE(begin, std::string::npos);
-  header.erase(0, begin);
-  const std::regex operation("= 0;");
-  EXPECT_EQ(std::distance(std::sregex_iterator(header.begin(), header.end(), operation),
-                          std::sregex_iterator()),
-            65);
-  const std::regex virtuals(R"(\bvirtual\b|\boverride = 0)");
-  EXPECT_EQ(std::distance(std::sregex_iterator(header.begin(), header.end(), virtuals),
-                          std::sregex_iterator()),
-            65)
-      << "none has a body of its own";
-}
 
 TEST(GameObjectFields, StandAsToldAtCreation) {
   ObjectBench bench;

@@ -10,16 +10,16 @@
 #include "base/EventSink.h"
 #include "base/Settings.h"
 #include "base/Watch.h"
-#include "media/FakeGraphs.h"
 #include "media/Graphics.h"
 #include "media/MediaWorld.h"
 #include "media/SoundState.h"
 #include "object/ForwardingObject.h"
 #include "object/ObjectFactory.h"
 #include "object/ObjectWorld.h"
-#include "screens/ContentText.h"
 #include "script/ScriptState.h"
 #include "script/ScriptWorld.h"
+#include "support/FakeSounds.h"
+#include "support/ObjectText.h"
 
 namespace quendle {
 
@@ -38,7 +38,7 @@ struct BenchPlatform {
   Faults faults;
   MemoryFileSystem files{kBase, &faults};
   HeadlessBackend backend{files, faults};
-  FakeGraphs graphs;
+  FakeSounds graphs;
   Ports ports{files,
               backend.clock,
               backend.timers,
@@ -62,7 +62,7 @@ struct WorldBench : BenchPlatform {
     settings.BaseDirectory = kBase;
     objects.log = &log;
     media.log = &log;
-    files.Put("\\info\\tools\\tool.bmp", Filled(1, 1, 0xC8C8C8));
+    files.Put("\\info\\tools\\tool.bmp", Filled(1, 1, 'k'));
     for (const char* type :
          {"hall", "overlay", "button", "doctor", "patient", "tool", "subgame", "menu", "dialog"}) {
       factory.Register(

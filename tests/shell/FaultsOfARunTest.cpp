@@ -53,7 +53,7 @@ TEST_F(FaultsOfARun, AMessageThatIsRefusedLeadsBackToTheScriptLineThatSentIt) {
   EXPECT_EQ(fault.message, "cs_nosuchscreen");
   EXPECT_THAT(fault.box_text, HasSubstr("In work: cs_nosuchscreen"));
   EXPECT_EQ(fault.object, "introscreen");  // the last object that it passed
-  EXPECT_EQ(fault.place.file, "Info\\start\\script-click.txt");
+  EXPECT_EQ(fault.place.file, "Info\\start\\script_click.txt");
   EXPECT_EQ(fault.place.line, 4);
 }
 

@@ -59,7 +59,7 @@ TEST_F(SpokenCaptionsTest, NothingIsSaidBeforeTheGameIsOn) {
 TEST_F(SpokenCaptionsTest, ASentenceIsShownAsLongAsItsSoundPlays) {
   Play();
   EXPECT_EQ(Shown(), "Come in!");
-  Graph("welcome.wma").completed = true;
+  Graph("welcome.wma").over = true;
   EXPECT_EQ(Shown(), "");
 }
 
@@ -74,20 +74,20 @@ TEST_F(SpokenCaptionsTest, OfTwoThatSoundAtOnceTheOneThatBeganLastIsShown) {
   Graph("welcome.wma").position = 2;
   Send("toobj_doctor_changestate_hurry");
   EXPECT_EQ(Shown(), "Hurry up!") << "the doctor speaks also where no screen holds it";
-  Graph("hurry.wma").completed = true;
+  Graph("hurry.wma").over = true;
   EXPECT_EQ(Shown(), "Come in!") << "it goes on";
 }
 
 TEST_F(SpokenCaptionsTest, ASoundWithoutASentenceShowsNone) {
   Play();
-  Graph("welcome.wma").completed = true;
+  Graph("welcome.wma").over = true;
   Send("toobj_doctor_changestate_hum");
   EXPECT_EQ(Shown(), "");
 }
 
 TEST_F(SpokenCaptionsTest, AGlobalSoundIsKnownByItsNameInTheGlobalList) {
   Play();
-  Graph("welcome.wma").completed = true;
+  Graph("welcome.wma").over = true;
   application.Game()->media.FindGlobalSound("ding")->PlaySound();
   EXPECT_EQ(Shown(), "A bell.");
 }

@@ -30,34 +30,36 @@ TEST(PlayAreaFiles, NothingInTheSixthLineLoadsNoGameData) {
 TEST(PlayAreaFiles, WithoutASixthLineAnywhereTheLoadIsFatal) {
   SubgameBench bench("playareablinker", "");
   EXPECT_EQ(FatalOf([&] { bench.LoadGame(); }),
-            "info\\area_data.txt:6: play area \"area\" needs the path of its game's data, or "
+            "Info\\area\\data.txt:6: play area \"area\" needs the path of its game's data, or "
             "\"nothing\": a sixth line of this file");
 }
 
 TEST(PlayAreaFiles, ThePathMayStandInTheObjectFile) {
   BobblerBench bench;
+  bench.files.Put("\\Info\\area\\header.txt", Text({"text", "7", "1", "nothing", "", ""}));
   bench.PutObject("area", "playareabobbler");
-  bench.files.Put("\\info\\area.txt",
-                  Text({"playareabobbler", "area", "0", "zero", "",
-                        "<CurrentDirectory>\\header.txt", "\\info\\area_data.txt", "nothing", ""}));
+  bench.files.Put("\\info\\area.txt", Text({"playareabobbler", "area", "0", "zero", "",
+                                            "<CurrentDirectory>\\header.txt",
+                                            "\\Info\\area\\data.txt", "nothing", ""}));
   bench.LoadGame();
   EXPECT_NE(bench.area, nullptr);
-  bench.files.Remove("\\info\\header.txt");
+  bench.files.Remove("\\Info\\area\\header.txt");
   EXPECT_EQ(FatalOf([&] { bench.LoadGame(); }),
-            "info\\header.txt: File \\info\\header.txt not found");
+            "Info\\area\\header.txt: File \\Info\\area\\header.txt not found");
 }
 
 TEST(PlayAreaFiles, ThePathOfTheDataFileHoldsBeforeThatOfTheObjectFile) {
   SubgameBench bench("playareabobbler", "nothing");
   bench.files.Put("\\info\\area.txt",
                   Text({"playareabobbler", "area", "0", "0", "0", "\\info\\nosuch.txt",
-                        "\\info\\area_data.txt", "nothing", ""}));
+                        "\\Info\\area\\data.txt", "nothing", ""}));
   bench.LoadGame();
   EXPECT_NE(bench.area, nullptr);
 }
 
 TEST(PlayAreaFiles, TokensGoByTheAreasOwnFolder) {
   BobblerBench bench;
+  bench.files.Put("\\Info\\area\\header.txt", Text({"text", "7", "1", "nothing", "", ""}));
   bench.PutObject("area", "playareabobbler", {}, "", "<CurrentDirectory>\\header.txt");
   bench.LoadGame();
   EXPECT_NE(bench.area, nullptr);
@@ -66,7 +68,7 @@ TEST(PlayAreaFiles, TokensGoByTheAreasOwnFolder) {
 TEST(PlayAreaFiles, TheDirectiveLineOfAnAreaHasNoEffect) {
   BobblerBench bench;
   bench.files.Put("\\info\\area.txt",
-                  Text({"playareabobbler", "area", "0", "0", "0", "0", "\\info\\area_data.txt",
+                  Text({"playareabobbler", "area", "0", "0", "0", "0", "\\Info\\area\\data.txt",
                         "nothing", "xpos_7 visible_off"}));
   bench.LoadGame();
   EXPECT_EQ(bench.area->xpos(), 0);
@@ -218,7 +220,7 @@ TEST(PlayAreaMessages, StopGameMayStandAnywhere) {
 
 TEST(PlayAreaMessages, StoppingGoesBackToTheFirstState) {
   BlinkerBench bench;
-  bench.files.Put("\\info\\area_states.txt",
+  bench.files.Put("\\Info\\area\\states.txt",
                   Text({"default", "nothing", "nothing", "nothing", "", "",  //
                         "busy", "nothing", "nothing", "nothing", "", ""}));
   bench.StartGame();

@@ -434,7 +434,7 @@ TEST_F(SquareGame, TurningOnTellsTheFrameInThisOrder) {
 }
 
 TEST_F(SquareGame, StoppingGoesBackToTheFirstStateAndShowsThePlayButton) {
-  bench.files.Put("\\info\\area_states.txt",
+  bench.files.Put("\\Info\\area\\states.txt",
                   Text({"default", "nothing", "nothing", "nothing", "", "",  //
                         "busy", "nothing", "nothing", "nothing", "", ""}));
   Start(kOrdered);

@@ -30,16 +30,9 @@
 #include "script/ScriptWorld.h"
 #include "subgames/PlayAreaObject.h"
 #include "subgames/SubgameClasses.h"
+#include "support/TestTree.h"
 
 namespace quendle {
-
-using Lines = std::vector<std::string>;
-
-inline std::string Text(const Lines& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
-  return text;
-}
 
 // The fields that an object tells tools.
 class FieldMap : public Inspector {
@@ -101,55 +94,30 @@ struct SubgameBench {
     world.DropGlobalObjects();
   }
 
-  // A cell of that size with the given states at \info\NAME.txt: a data file and what it names. Two
+  // What loads from \info\NAME.txt: a cell's data file with these states, all of one picture. Two
   // looping frames keep a timer running.
   void PutCell(const std::string& name, int width, int height, const Lines& states,
                bool animated = false, const std::string& script = "") {
-    const std::string stem = "\\info\\" + name;
-    Lines state_lines;
+    TestObject cell = Pictured(name, "cell", width, height, animated ? "all all" : "all");
     for (const std::string& state : states) {
-      for (const std::string& line :
-           {state, std::string("nothing"), std::string("still"),
-            std::string(script.empty() ? "nothing" : "main"), std::string(), std::string()}) {
-        state_lines.push_back(line);
-      }
+      cell.State(state, "nothing", "still", script.empty() ? "nothing" : "main");
     }
-    files.Put(stem + ".txt",
-              Text({stem + "_states.txt", stem + "_animations.txt", "\\info\\sounds.txt",
-                    script.empty() ? "nothing" : stem + "_scripts.txt", ""}));
-    files.Put(stem + "_states.txt", Text(state_lines));
-    Lines animation{stem + ".bmp", stem + "_frames.txt", "still", "100", "loop", "nothing"};
-    animation.push_back(animated ? "all all" : "all");
-    animation.push_back("statedone");
-    files.Put(stem + "_animations.txt", Text(animation));
-    files.Put(stem + "_frames.txt", Text({"all", "nothing", "stable", "stable", "0", "0",
-                                          std::to_string(width), std::to_string(height), ""}));
-    files.Put(stem + "_scripts.txt", Text({"main", stem + "_main.txt", ""}));
-    files.Put(stem + "_main.txt", script);
+    if (!script.empty()) cell.Script("main", script);
+    cell.DataAt("\\info\\" + name + ".txt").WriteParts(files);
   }
 
   // An object at \info\NAME.txt of one state without a picture.
   void PutObject(const std::string& name, const std::string& type, const Lines& children = {},
                  const std::string& script = "", const std::string& sixth_line = "") {
-    const std::string stem = "\\info\\" + name;
-    files.Put(stem + ".txt", Text({type, name, "0", "0", "0", "0", stem + "_data.txt",
-                                   children.empty() ? "nothing" : stem + "_children.txt", ""}));
-    Lines data{stem + "_states.txt", "nothing", "nothing",
-               script.empty() ? "nothing" : stem + "_scripts.txt", ""};
-    if (!sixth_line.empty()) data.push_back(sixth_line);
-    files.Put(stem + "_data.txt", Text(data));
-    files.Put(stem + "_states.txt",
-              Text({"default", "nothing", "nothing", script.empty() ? "nothing" : "main", "", ""}));
-    files.Put(stem + "_children.txt", Text(children));
-    files.Put(stem + "_scripts.txt", Text({"main", stem + "_main.txt", ""}));
-    files.Put(stem + "_main.txt", script);
+    TestObject object(name, type);
+    object.State("default", "nothing", "nothing", script.empty() ? "nothing" : "main");
+    if (!script.empty()) object.Script("main", script);
+    for (const std::string& child : children) object.ChildLine(child);
+    if (!sixth_line.empty()) object.SixthLine(sixth_line);
+    object.ObjectAt("\\info\\" + name + ".txt").Write(files);
   }
 
   void PutGame() {
-    files.Put("\\info\\sounds.txt", Text({"hit", "\\a.wma", "nonloop", "nothing",   //
-                                          "fire", "\\b.wma", "nonloop", "nothing",  //
-                                          "owww", "\\c.wma", "nonloop", "nothing",  //
-                                          "bounce", "\\d.wma", "nonloop", "nothing"}));
     PutObject("area", area_type_, {}, "", header_);
     const Lines names{"Play1", "Help1", "HOK1", "EOK1", "replay", "Scoring1"};
     Lines children{"\\info\\area.txt"};
@@ -165,9 +133,11 @@ struct SubgameBench {
     Lines script{"begin", "if action = handmouseclick"};
     for (const std::string& message : messages) script.push_back("mtp " + message);
     script.insert(script.end(), {"endif", "end"});
-    PutCell(name + "_button", 60, 30, {"default"}, false, Text(script));
-    files.Put("\\info\\" + name + ".txt", Text({"button", name, "0", "0", "0", "0",
-                                                "\\info\\" + name + "_button.txt", "nothing", ""}));
+    Pictured(name, "button", 60, 30, "all")
+        .State("default", "nothing", "still", "main")
+        .Script("main", Text(script))
+        .ObjectAt("\\info\\" + name + ".txt")
+        .Write(files);
   }
 
   // The game's screen, off, below a top that notes.
@@ -291,6 +261,18 @@ struct SubgameBench {
   std::shared_ptr<PlayAreaObject> area;
 
  private:
+  // An object with the sounds of a game and an animation "still" of its whole picture, which isn't
+  // there: the window path draws nothing.
+  static TestObject Pictured(const std::string& name, const std::string& type, int width,
+                             int height, const std::string& frames) {
+    TestObject object(name, type);
+    object.NoPicture()
+        .Frame("all", {0, 0, width, height})
+        .Animation("still", 100, "loop", {frames});
+    for (const char* sound : {"hit", "fire", "owww", "bounce"}) object.MissingSound(sound);
+    return object;
+  }
+
   std::string area_type_;
   std::string header_;
 };

@@ -1,6 +1,9 @@
-// Sound graphs without sound: each file lasts until a test says that it is over.
+// Sound graphs without sound: they note what is asked of them, and each file lasts until a test
+// says that it is over.
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
@@ -12,85 +15,102 @@
 namespace quendle {
 
 // What became of one graph; lives on when the graph is gone.
-struct SoundRun {
+struct GraphRecord {
   std::string path;
+  std::vector<std::string> calls;  // "Run", "Pause", "Stop"
+  double position = 0;
+  double rate = 0;
+  std::int32_t volume = -1;
+  std::int32_t balance = -1;
   bool running = false;
   bool over = false;  // played to its end
-  int runs = 0;
-  int stops = 0;
-  double position = 0;
-  std::int32_t volume = 0;
+  bool alive = true;
+};
+
+// What the next graphs can do.
+struct GraphAbilities {
+  bool create = true, render = true, audio = true, event = true, position = true, set_rate = true;
+  double duration = 10;
 };
 
 class FakeSoundGraph : public FilterGraph {
  public:
-  explicit FakeSoundGraph(std::shared_ptr<SoundRun> run) : run_(std::move(run)) {}
-  ~FakeSoundGraph() override { run_->running = false; }
+  FakeSoundGraph(std::shared_ptr<GraphRecord> record, const GraphAbilities& can)
+      : record_(std::move(record)), can_(can) {}
+  ~FakeSoundGraph() override { record_->alive = record_->running = false; }
 
   bool RenderFile(const std::string& path) override {
-    run_->path = path;
-    return true;
+    record_->path = path;
+    return can_.render;
   }
-  bool QueryAudio() override { return true; }
-  bool QueryEvent() override { return true; }
-  bool QueryPosition() override { return true; }
+  bool QueryAudio() override { return can_.audio; }
+  bool QueryEvent() override { return can_.event; }
+  bool QueryPosition() override { return can_.position; }
   void Run() override {
-    run_->running = true;
-    run_->over = false;
-    ++run_->runs;
+    record_->calls.emplace_back("Run");
+    record_->running = true;
+    record_->over = false;
   }
-  void Pause() override {}
+  void Pause() override { record_->calls.emplace_back("Pause"); }
   void Stop() override {
-    run_->running = false;
-    ++run_->stops;
+    record_->calls.emplace_back("Stop");
+    record_->running = false;
   }
-  double Duration() override { return 10; }
-  double Position() override { return run_->position; }
-  void SetPosition(double seconds) override { run_->position = seconds; }
-  double Rate() override { return 1; }
-  bool SetRate(double) override { return true; }
-  std::int32_t Volume() override { return run_->volume; }
-  void SetVolume(std::int32_t volume) override { run_->volume = volume; }
-  std::int32_t Balance() override { return 0; }
-  void SetBalance(std::int32_t) override {}
-  long WaitForCompletion(long) override { return run_->running && !run_->over ? 0 : 1; }
+  double Duration() override { return can_.duration; }
+  double Position() override { return record_->position; }
+  void SetPosition(double seconds) override { record_->position = seconds; }
+  double Rate() override { return record_->rate; }
+  bool SetRate(double rate) override {
+    if (can_.set_rate) record_->rate = rate;
+    return can_.set_rate;
+  }
+  std::int32_t Volume() override { return record_->volume; }
+  void SetVolume(std::int32_t volume) override { record_->volume = volume; }
+  std::int32_t Balance() override { return record_->balance; }
+  void SetBalance(std::int32_t balance) override { record_->balance = balance; }
+  long WaitForCompletion(long) override { return record_->running && !record_->over ? 0 : 1; }
 
  private:
-  std::shared_ptr<SoundRun> run_;
+  std::shared_ptr<GraphRecord> record_;
+  const GraphAbilities& can_;
 };
 
 class FakeSounds : public FilterGraphs {
  public:
-  std::vector<std::shared_ptr<SoundRun>> made;
+  GraphAbilities can;
+  std::vector<std::shared_ptr<GraphRecord>> made;
 
   std::unique_ptr<FilterGraph> Create() override {
-    made.push_back(std::make_shared<SoundRun>());
-    return std::make_unique<FakeSoundGraph>(made.back());
+    if (!can.create) return nullptr;
+    made.push_back(std::make_shared<GraphRecord>());
+    return std::make_unique<FakeSoundGraph>(made.back(), can);
   }
+  GraphRecord& Last() { return *made.back(); }
 
   // Files are named by how their path ends, such as "click.wma".
   bool Playing(const std::string& file) const {
-    for (const auto& run : made) {
-      if (IsOf(*run, file) && run->running && !run->over) return true;
-    }
-    return false;
+    return std::ranges::any_of(made, [&](const auto& record) {
+      return IsOf(*record, file) && record->running && !record->over;
+    });
   }
   // How often the file was started.
-  int Runs(const std::string& file) const {
-    int runs = 0;
-    for (const auto& run : made) runs += IsOf(*run, file) ? run->runs : 0;
+  long Runs(const std::string& file) const {
+    long runs = 0;
+    for (const auto& record : made) {
+      if (IsOf(*record, file)) runs += std::ranges::count(record->calls, "Run");
+    }
     return runs;
   }
   // The file plays to its end now.
   void Finish(const std::string& file) {
-    for (const auto& run : made) {
-      if (IsOf(*run, file)) run->over = true;
+    for (const auto& record : made) {
+      if (IsOf(*record, file)) record->over = true;
     }
   }
 
  private:
-  static bool IsOf(const SoundRun& run, const std::string& file) {
-    return FoldCase(run.path).ends_with(FoldCase(file));
+  static bool IsOf(const GraphRecord& record, const std::string& file) {
+    return FoldCase(record.path).ends_with(FoldCase(file));
   }
 };
 

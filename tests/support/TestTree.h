@@ -10,7 +10,8 @@
 //   tree.Write();
 //
 // The object "door" then stands in "\Info\door\door.txt"; its other files are beside it, under the
-// names of the functions that fill them (states.txt, frames.txt, ...).
+// names of the functions that fill them (states.txt, frames.txt, ...). An object can also be
+// written by itself: `TestObject("door", "button").Still(10, 20).Write(files)`.
 #pragma once
 
 #include <map>
@@ -84,6 +85,11 @@ class TestObject {
     picture_ = std::move(bytes);
     return *this;
   }
+  // The picture is named and isn't there.
+  TestObject& NoPicture() {
+    picture_is_there_ = false;
+    return *this;
+  }
   // The first line of the animation file.
   TestObject& PictureLine(std::string line) {
     picture_line_ = std::move(line);
@@ -97,6 +103,11 @@ class TestObject {
     files_[name + ".wma"] = "sound";
     return Add("sounds.txt", {name, "<CurrentDirectory>\\" + name + ".wav", loop, directives});
   }
+  // A sound with a file of that path, made with the object.
+  TestObject& SoundAt(const std::string& name, const std::string& path) {
+    elsewhere_[path] = "sound";
+    return Add("sounds.txt", {name, path, "nonloop", ""});
+  }
   // A sound whose file isn't there.
   TestObject& MissingSound(const std::string& name) {
     return Add("sounds.txt", {name, "<CurrentDirectory>\\" + name + ".wav", "nonloop", ""});
@@ -107,7 +118,7 @@ class TestObject {
 
   TestObject& Script(const std::string& name, const std::string& text) {
     files_["script_" + name + ".txt"] = text;
-    return Add("scripts.txt", {name, "<CurrentDirectory>\\script_" + name + ".txt", ""});
+    return Add("scripts.txt", {name, Folder() + "script_" + name + ".txt", ""});
   }
   TestObject& GlobalScript(const std::string& name) {
     return Add("scripts.txt", {"globalscript_" + name, "unused", ""});
@@ -127,6 +138,20 @@ class TestObject {
     directives_ = std::move(line);
     return *this;
   }
+  // A sixth line of the data file.
+  TestObject& SixthLine(std::string line) {
+    sixth_line_ = {std::move(line)};
+    return *this;
+  }
+  // Where the object file or the data file stands, instead of in the object's folder.
+  TestObject& ObjectAt(std::string path) {
+    object_path_ = std::move(path);
+    return *this;
+  }
+  TestObject& DataAt(std::string path) {
+    data_path_ = std::move(path);
+    return *this;
+  }
   // One of the files as it stands, in place of what the other functions fill.
   TestObject& Raw(const std::string& file, std::string text) {
     raw_[file] = std::move(text);
@@ -134,29 +159,16 @@ class TestObject {
   }
 
   std::string Folder() const { return "\\Info\\" + name_ + "\\"; }
-  std::string Path() const { return Folder() + name_ + ".txt"; }
+  std::string Path() const { return object_path_.empty() ? Folder() + ObjectFile() : object_path_; }
 
-  void Write(MemoryFileSystem& files) {
-    std::map<std::string, std::string> all = files_;
-    for (const auto& [file, lines] : lists_) all[file] = Text(lines);
-    if (!all.contains("states.txt")) {
-      all["states.txt"] = Text({"default", "nothing", "nothing", "nothing", "", ""});
-    }
-    if (!frames_.empty() || has_animations_) WriteAnimation(all);
-    for (const auto& [file, text] : raw_) all[file] = text;
-    const auto path = [&](const char* file) {
-      return all.contains(file) ? Folder() + file : std::string("nothing");
-    };
-    if (!all.contains("data.txt")) {
-      all["data.txt"] = Text({path("states.txt"), path("animations.txt"), path("sounds.txt"),
-                              path("scripts.txt"), ""});
-    }
-    if (!all.contains(name_ + ".txt")) {
-      all[name_ + ".txt"] = Text({type_, name_, "0", "0", "0", "0", Folder() + "data.txt",
-                                  path("children.txt"), directives_});
-    }
-    for (const auto& [file, text] : all) files.Put(Folder() + file, text);
+  void Write(MemoryFileSystem& files) const {
+    std::map<std::string, std::string> all = Parts();
+    all.try_emplace(ObjectFile(), Text({type_, name_, "0", "0", "0", "0", DataPath(),
+                                        PathIn(all, "children.txt"), directives_}));
+    Put(files, all);
   }
+  // All but the object file, for what is loaded from its data file.
+  void WriteParts(MemoryFileSystem& files) const { Put(files, Parts()); }
 
  private:
   struct FrameRecord {
@@ -166,14 +178,43 @@ class TestObject {
     std::string vertical;
   };
 
+  std::string ObjectFile() const { return name_ + ".txt"; }
+  std::string DataPath() const { return data_path_.empty() ? Folder() + "data.txt" : data_path_; }
+  std::string PathIn(const std::map<std::string, std::string>& all, const char* file) const {
+    return all.contains(file) ? Folder() + file : std::string("nothing");
+  }
+
+  std::map<std::string, std::string> Parts() const {
+    std::map<std::string, std::string> all = files_;
+    for (const auto& [file, lines] : lists_) all[file] = Text(lines);
+    all.try_emplace("states.txt", Text({"default", "nothing", "nothing", "nothing", "", ""}));
+    if (!frames_.empty() || has_animations_) WriteAnimation(all);
+    for (const auto& [file, text] : raw_) all[file] = text;
+    Lines data{PathIn(all, "states.txt"), PathIn(all, "animations.txt"), PathIn(all, "sounds.txt"),
+               PathIn(all, "scripts.txt"), ""};
+    data.insert(data.end(), sixth_line_.begin(), sixth_line_.end());
+    all.try_emplace("data.txt", Text(data));
+    return all;
+  }
+
+  void Put(MemoryFileSystem& files, const std::map<std::string, std::string>& all) const {
+    for (const auto& [file, text] : all) {
+      const std::string own = Folder() + file;
+      files.Put(file == ObjectFile() ? Path() : file == "data.txt" ? DataPath() : own, text);
+    }
+    for (const auto& [path, bytes] : elsewhere_) files.Put(path, bytes);
+  }
+
   TestObject& Add(const std::string& file, const Lines& lines) {
     Lines& all = lists_[file];
     all.insert(all.end(), lines.begin(), lines.end());
     return *this;
   }
 
-  void WriteAnimation(std::map<std::string, std::string>& all) {
-    all["picture.bmp"] = picture_.empty() ? Filled(64, 64, 'r') : picture_;
+  void WriteAnimation(std::map<std::string, std::string>& all) const {
+    if (picture_is_there_) {
+      all["picture.bmp"] = picture_.empty() ? Filled(64, 64, 'r') : picture_;
+    }
     Lines lines{picture_line_, Folder() + "frames.txt"};
     lines.insert(lines.end(), animations_.begin(), animations_.end());
     all["animations.txt"] = Text(lines);
@@ -195,7 +236,11 @@ class TestObject {
   std::string name_;
   std::string type_;
   std::string directives_;
+  std::string object_path_;
+  std::string data_path_;
+  Lines sixth_line_;  // none or one
   std::string picture_;
+  bool picture_is_there_ = true;
   std::string picture_line_ = "<CurrentDirectory>\\picture.bmp";
   bool has_animations_ = false;
   Lines animations_;
@@ -203,6 +248,7 @@ class TestObject {
   std::map<std::string, bool> with_regions_;
   std::map<std::string, Lines> lists_;
   std::map<std::string, std::string> files_;
+  std::map<std::string, std::string> elsewhere_;  // by their whole paths
   std::map<std::string, std::string> raw_;
 };
 

@@ -62,7 +62,7 @@ inline std::uint32_t WordOfLetter(char letter) {
   }
 }
 
-inline std::vector<std::uint32_t> Words(const std::vector<std::string>& rows) {
+inline std::vector<std::uint32_t> WordsOfRows(const std::vector<std::string>& rows) {
   std::vector<std::uint32_t> words;
   for (const std::string& row : rows) {
     for (char letter : row) words.push_back(WordOfLetter(letter));
@@ -73,7 +73,7 @@ inline std::vector<std::uint32_t> Words(const std::vector<std::string>& rows) {
 // A 24-bit bitmap file of rows of letters.
 inline std::string Drawn(const std::vector<std::string>& rows) {
   return WriteBitmapFile(static_cast<int>(rows.front().size()), static_cast<int>(rows.size()),
-                         Words(rows).data());
+                         WordsOfRows(rows).data());
 }
 
 inline std::string Filled(int width, int height, char letter) {
