@@ -99,6 +99,13 @@ function(quendle_recordings)
   endforeach()
 endfunction()
 
+# Scripts for daily work that have tests of their own.
+function(quendle_scripts)
+  add_test(NAME scripts.mutate
+           COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/scripts/mutate_test.py)
+  set_tests_properties(scripts.mutate PROPERTIES TIMEOUT 60 LABELS scripts)
+endfunction()
+
 # What the pages say: links, the tutorial from its first line to its last, the manual.
 function(quendle_pages)
   set(docs ${PROJECT_SOURCE_DIR}/docs)

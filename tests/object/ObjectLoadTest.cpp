@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "media/SoundState.h"
+#include "support/NotedStates.h"
 #include "support/ObjectBench.h"
 
 namespace quendle {
@@ -340,12 +341,12 @@ TEST_F(LineNine, RunsBeforeTheChildrenExist) {
   bench_.Object("door")
       .State("default")
       .State("open")
-      .Script("greet", "begin\nmtp x\nend\n")
       .Directives("runstate_open")
       .Child("lamp", "state_lit");
+  NotedStates states(bench_.watch);
   TestedObject door = bench_.Load("door");
+  EXPECT_EQ(states.lines, (Lines{"door: default", "door: open", "lamp: default", "lamp: lit"}));
   EXPECT_EQ(ObjectBench::NamesOf(door->Children()), (Lines{"lamp"}));
-  EXPECT_EQ(door->Inner().StateHistory(), (Lines{"default"}));
 }
 
 TEST_F(ChildrenOfALoad, MakeChildrenInOrderBelowTheirParent) {
@@ -433,13 +434,26 @@ TEST_F(ChildrenOfALoad, AWrongDirectiveNamesTheLineOfTheList) {
   EXPECT_EQ(LoadFault("hall"), "Info\\hall\\children.txt:1: \"left\" is not a number (xpos)");
 }
 
-TEST_F(ChildrenOfALoad, ARunStateOfALineReachesTheNewChildBeforeItIsAdded) {
-  bench_.Object("door").State("default").State("wave");
-  bench_.Object("hall", "hall").Child("door", "runstate_wave");
-  TestedObject hall = bench_.Load("hall");
+TEST_F(ChildrenOfALoad, ALineReachesTheNewChildBeforeItIsAdded) {
+  // Below an object that is on an added child begins to sound: by then it is in the line's state.
+  bench_.Object("door")
+      .Sound("a")
+      .Sound("b")
+      .Sound("c")
+      .State("default", "a")
+      .State("open", "b")
+      .State("wave", "c");
+  bench_.Object("hall", "hall");
+  TestedObject hall = bench_.LoadOn("hall");
+  bench_.platform.files.Put("\\Info\\more.txt",
+                            "\\Info\\door\\door.txt state_open runstate_wave\n");
+  hall->LoadChildrenObjects("\\Info\\more.txt", 0);
   TestedObject door = ObjectBench::Child(*hall, "door");
   EXPECT_EQ(door->CurrentState(), "wave");
-  EXPECT_EQ(door->Inner().StateHistory(), (Lines{"default"}));
+  EXPECT_EQ(door->Inner().StateHistory(), (Lines{"open"}));
+  EXPECT_EQ(bench_.sounds.Runs("a.wma"), 0);
+  EXPECT_EQ(bench_.sounds.Runs("b.wma"), 0);
+  EXPECT_EQ(bench_.sounds.Runs("c.wma"), 1);
 }
 
 TEST_F(ChildrenOfALoad, AListThatNamesItsOwnObjectIsFatalAndNotTheEndOfTheStack) {
