@@ -62,7 +62,9 @@ void CheckHover(const CheckContext& context, const ModelObject& object, const Ob
 }
 
 bool LeavesTheScreen(const std::string& message) {
-  const GameVerb verb = GameVerbOf(message, message.substr(0, message.find('_')));
+  const std::vector<std::string> words = SplitTokens(message, '_');
+  if (words.size() < 2) return false;
+  const GameVerb verb = GameVerbOf(message, words[0]);
   return verb == GameVerb::kChangeScreen || verb == GameVerb::kSubgame;
 }
 
