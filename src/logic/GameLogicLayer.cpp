@@ -6,6 +6,7 @@
 #include "base/Numbers.h"
 #include "base/Settings.h"
 #include "base/Watch.h"
+#include "logic/GameVerbs.h"
 #include "logic/InputRecorder.h"
 #include "media/DShowObj.h"
 #include "media/Graphics.h"
@@ -13,6 +14,7 @@
 #include "media/SoundState.h"
 #include "platform/Ports.h"
 #include "platform/TimerService.h"
+#include "screens/ScreenNames.h"
 #include "script/ScriptWorld.h"
 
 namespace quendle {
@@ -56,21 +58,21 @@ void GameLogicLayer::Initialize(ContextHandle window_context, const std::string&
 }
 
 void GameLogicLayer::TurnOn() {
-  m_ptrCurrentScreen = RequireScreen("introscreen");
+  m_ptrCurrentScreen = RequireScreen(std::string(kFirstScreenName));
   StartMusic();
   ObjectRef(m_ptrCurrentScreen)->TurnOn();
-  m_ptrToolsScreen = RequireScreen("tools");
+  m_ptrToolsScreen = RequireScreen(std::string(kToolsScreenName));
   ObjectRef(m_ptrToolsScreen)->TurnOn();
   m_strToolsState = "off";
-  m_strCurrentCursor = "hand";
-  m_ptrCursorsScreen = RequireScreen("cursors");
+  m_strCurrentCursor = kBareHand;
+  m_ptrCursorsScreen = RequireScreen(std::string(kCursorsScreenName));
   ObjectRef(m_ptrCursorsScreen)->TurnOn();
   m_ptrPersonCursor = nullptr;
   if (world_.media.settings.PersonalizeOn) {
     m_ptrPersonCursor = world_.FindGlobalObject("personcursor");
     m_ptrCursorsScreen->AddChildObject(m_ptrPersonCursor);
   }
-  m_ptrCursorObject = world_.FindGlobalObject("handcursor");
+  m_ptrCursorObject = world_.FindGlobalObject(PointerNameOf(kBareHand));
   m_ptrCursorsScreen->AddChildObject(m_ptrCursorObject);
   ObjectWorld& world = world_;
   m_nDrawTimer = world_.media.ports.timers.SetTimer(Milliseconds(kDrawInterval), "OnLogicTimer",

@@ -4,6 +4,7 @@
 
 #include "base/ContentFiles.h"
 #include "logic/GameLogicLayer.h"
+#include "logic/ScreenMeaning.h"
 #include "media/MediaWorld.h"
 
 namespace quendle {
@@ -17,6 +18,20 @@ std::array<bool*, 5> Fields(HelpMemory& help) {
 }
 
 }  // namespace
+
+bool& HelpMemory::GivenAt(HelpPlace place) {
+  switch (place) {
+    case HelpPlace::kMedicalBook:
+      return m_bHelpMedicalBook;
+    case HelpPlace::kPatientRoom:
+      return m_bHelpPatientRoom;
+    case HelpPlace::kToolRoom:
+      return m_bHelpToolRoom;
+    case HelpPlace::kElevator:
+      return m_bHelpElevator;
+  }
+  return m_bHelpElevator;
+}
 
 void GameLogicLayer::ReadHelpMemory() {
   const ContentFiles& files = world_.media.content;

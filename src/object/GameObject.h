@@ -174,10 +174,8 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
     return heard_[1].action == &action ? &heard_[1] : nullptr;
   }
 
-  // One message on its way through the table of verbs.
+  // One message that is being carried out.
   struct MessageCall;
-  struct MessageRow;
-  static const std::vector<MessageRow>& MessageTable();
 
   // Loading.
   void LoadObjectData(const std::string& data_file, ContextHandle context);
@@ -227,11 +225,11 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
 
   // Statements.
   std::string SubstituteTokensOf(const Statement& statement);
-  bool VerifyStatement(StatementVerb verb, const std::string& argument);
+  void CarryOut(StatementVerb verb, const std::string& argument, bool verifying, bool& result);
 
-  // Messages: a row each.
+  // Messages: a verb each.
   void ShowObj(MessageCall& call);
-  void RunScriptRow(MessageCall& call);
+  void RunScriptVerb(MessageCall& call);
   void UserAction(MessageCall& call);
   void HideType(MessageCall& call);
   void HideObj(MessageCall& call);
@@ -239,7 +237,7 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   void ShowType(MessageCall& call);
   void ToType(MessageCall& call);
   void ToObj(MessageCall& call);
-  void RunStateRow(MessageCall& call);
+  void RunStateVerb(MessageCall& call);
   void ChangeState(MessageCall& call);
   void RemoveObj(MessageCall& call);
   void PassUp(MessageCall& call);

@@ -8,6 +8,7 @@
 #include "media/ObjectPicture.h"
 #include "media/SoundState.h"
 #include "object/GameObject.h"
+#include "object/ObjectVerbs.h"
 #include "script/ActionText.h"
 #include "script/ScriptState.h"
 #include "script/ScriptVariables.h"
@@ -163,7 +164,7 @@ void GameObject::RunScript(const std::string& name) {
   const auto* found = Scripts_.Find(name);
   if (found == nullptr) return;
   std::shared_ptr<ScriptState> script = *found;
-  Execute(*script, ActionText("nothing"));
+  Execute(*script, ActionText(kRunScriptAction));
 }
 
 void GameObject::Execute(const ScriptState& script, const ActionText& action) {

@@ -10,26 +10,18 @@
 #include "object/ObjectFactory.h"
 #include "platform/FileSystem.h"
 #include "platform/Ports.h"
+#include "screens/ScreenNames.h"
 
 namespace quendle {
 namespace {
 
 bool IsSubgame(const GameObjectInterface& screen) {
-  return EqualsNoCase(screen.ObjectType(), "subgame");
+  return EqualsNoCase(screen.ObjectType(), kSubgameType);
 }
 
-bool IsTutorial(const GameObjectInterface& screen) {
-  return ContainsNoCase(screen.ObjectName(), "tutorial");
-}
-
-bool IsFixture(const std::string& name) {
-  return EqualsNoCase(name, "tools") || EqualsNoCase(name, "cursors");
-}
-
-// Screens that are never written to the saved game.
-bool IsLeftOut(const std::string& name) {
-  return ContainsNoCase(name, "tutorial") || ContainsNoCase(name, "cursors") ||
-         ContainsNoCase(name, "square") || ContainsNoCase(name, "shooter");
+// Built anew at each visit.
+bool IsNeverKept(const GameObjectInterface& screen) {
+  return IsTutorial(screen.ObjectName()) || IsSubgame(screen);
 }
 
 // Takes the last memento of that name out of the list and puts the new one at the end.
@@ -70,7 +62,7 @@ ObjectRef ScreenKeeper::GetScreen(const std::string& name) {
   ObjectRef screen = BuildScreen(name);
   if (screen == nullptr) return nullptr;
   RestoreMemento(screen);
-  if (IsTutorial(*screen) || IsSubgame(*screen)) return screen;
+  if (IsNeverKept(*screen)) return screen;
   MakeRoom();
   m_colScreenCache.Add(ScreenCacheEntry{screen}, screen->ObjectName());
   return screen;
@@ -110,7 +102,7 @@ void ScreenKeeper::MakeRoom() {
   const ScreenCacheEntry* victim = nullptr;
   for (const auto& entry : m_colScreenCache) {
     const ScreenCacheEntry& cached = entry.value;
-    if (!cached.m_bFreeToRelease || IsFixture(cached.m_ptrGameObject->ObjectName())) continue;
+    if (!cached.m_bFreeToRelease || IsLayer(cached.m_ptrGameObject->ObjectName())) continue;
     if (victim == nullptr || cached.m_nAge > victim->m_nAge) victim = &cached;
   }
   if (victim == nullptr) return;
@@ -133,7 +125,7 @@ void ScreenKeeper::SaveScreen(const ObjectRef& screen) {
   for (auto& entry : m_colScreenCache) {
     GameObjectInterface& cached = *entry.value.m_ptrGameObject;
     if (!EqualsNoCase(cached.ObjectName(), screen->ObjectName())) continue;
-    if (!IsTutorial(cached) && !IsSubgame(cached)) StoreMemento(TakeMemento(cached));
+    if (!IsNeverKept(cached)) StoreMemento(TakeMemento(cached));
   }
 }
 
@@ -217,7 +209,7 @@ void ScreenKeeper::SaveAllMementos() {
 void ScreenKeeper::WriteMementos(TextStream& stream, const GameObjectMemento::List& list) const {
   stream.WriteLine("begin");
   for (const auto& entry : list) {
-    if (!IsLeftOut(entry.value->ObjectName())) {
+    if (!IsNeverSaved(entry.value->ObjectName())) {
       entry.value->SaveToFile(stream, world_.watch.depth);
     }
   }
@@ -236,7 +228,7 @@ bool ScreenKeeper::DoesScreenExist(const std::string& name) const {
 
 void ScreenKeeper::EnumerateScreens(std::vector<std::string>& names) const {
   for (const auto& entry : m_colScreenInfo) {
-    if (!IsFixture(entry.value.ScreenName)) names.push_back(entry.value.ScreenName);
+    if (!IsLayer(entry.value.ScreenName)) names.push_back(entry.value.ScreenName);
   }
 }
 

@@ -52,16 +52,25 @@ class MessageRouter {
   Verdict ToParent(const ModelInstance& sender, Call& call);
   Verdict ToObject(const ModelInstance& receiver, Call& call);
   Verdict ToScreen(const ModelInstance& receiver, Call& call);
+  Verdict ClimbFromScreen(const ModelInstance& receiver, Call& call);
+  Verdict ToMenu(const ModelInstance& receiver, Call& call);
+  Verdict ToFrame(const ModelInstance& receiver, Call& call);
+  Verdict ToPoints(const ModelInstance& receiver, Call& call);
   Verdict ToArea(const ModelInstance& receiver, Call& call);
+  static bool SpeaksToCells(const Call& call);
   Verdict ToPlainObject(const ModelInstance& receiver, Call& call);
   Verdict ToGame(const ModelObject* root, Call& call);
   Verdict ToCurrentScreen(const ModelObject* root, Call& call);
+  Verdict ToPointer(const Call& call);
   Verdict ToolOffer(const ModelObject* root, Call& call);
+  Verdict ToSubgame(Call& call);
   Verdict ToWhere(const ModelObject* root, Call& call);
   Verdict Deliver(const ModelInstance& receiver, Call& call, bool by_type);
   Verdict EnterState(const ModelObject& object, Call& call, bool passing);
   Verdict EnterScreen(Call& call);
   Verdict ShowOrHide(const ModelInstance& receiver, Call& call, bool by_type, bool climbs);
+  Verdict RunScript(const ModelObject& object, const Call& call);
+  Verdict RemoveObject(const ModelInstance& receiver, Call& call);
   Verdict AddGlobal(const ModelObject& object, Call& call);
 
   std::vector<const ModelObject*> ChildrenOf(const ModelObject& object) const;

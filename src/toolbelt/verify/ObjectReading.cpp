@@ -9,22 +9,6 @@
 #include "toolbelt/verify/TreeReader.h"
 
 namespace quendle {
-namespace {
-
-constexpr const char* kDirectiveKeys[] = {"visible", "depth", "state", "runstate", "xpos", "ypos"};
-
-bool IsDirective(const std::string& word) {
-  const std::vector<std::string> pieces = SplitTokens(word, '_');
-  if (pieces.size() < 2) return false;
-  if (EqualsNoCase(pieces[0], "visible")) {
-    return EqualsNoCase(pieces[1], "on") || EqualsNoCase(pieces[1], "off");
-  }
-  return std::ranges::any_of(kDirectiveKeys,
-                             [&](const char* key) { return EqualsNoCase(pieces[0], key); });
-}
-
-}  // namespace
-
 ModelObjectRef TreeReader::ReadObject(const NamedFile& file, ModelRole role, ModelObject* parent) {
   const std::string key = FoldCase(file.resolved);
   if (std::ranges::find(open_, key) != open_.end()) {
@@ -92,7 +76,7 @@ void TreeReader::CheckHeader(const ModelObject& object, const ObjectFile& read) 
   }
   if (!object.IsPlayArea()) {
     for (const std::string& word : SplitTokens(read.directives, ' ')) {
-      if (IsDirective(word)) continue;
+      if (SaysSomething(word)) continue;
       findings_.Add(Check::kOddDirective, label, read.directives_place,
                     "\"" + word + "\" is no directive");
     }
@@ -146,7 +130,7 @@ void TreeReader::ReadChild(ModelObject& object, const ChildLine& line) {
   gate_.Guard(label, [&] { child.directives = ParseDirectives(line.line, line.place); });
   const std::vector<std::string> words = SplitTokens(line.line, ' ');
   for (std::size_t i = 1; i < words.size(); ++i) {
-    if (IsDirective(words[i])) continue;
+    if (SaysSomething(words[i])) continue;
     findings_.Add(Check::kOddDirective, label, line.place, "\"" + words[i] + "\" is no directive");
   }
   if (ContainsNoCase(line.child, "GlobalObject")) {

@@ -32,6 +32,19 @@ StateSet RegionsOf(const ModelObject& object) {
   return regions;
 }
 
+bool LeadsToAState(StatementMeaning meaning) {
+  switch (meaning) {
+    case StatementMeaning::kState:
+    case StatementMeaning::kPassingState:
+      return true;
+    case StatementMeaning::kMessage:
+    case StatementMeaning::kSound:
+    case StatementMeaning::kNothing:
+      return false;
+  }
+  return false;
+}
+
 class Walker {
  public:
   Walker(const ModelObject& object,
@@ -66,9 +79,7 @@ class Walker {
   }
 
   StateSet Turned(const Statement& statement, const StateSet& states) const {
-    const bool turns =
-        statement.Verb() == StatementVerb::kChange || statement.Verb() == StatementVerb::kRunState;
-    if (!turns || SplitTokens(statement.Text(), ' ').size() < 2) return states;
+    if (!LeadsToAState(statement.Meaning()) || !statement.HasArgument()) return states;
     StateSet turned;
     for (const std::string& state : states) {
       for (const std::string& next : ExpandWord(object_, statement.Argument(), {state})) {
