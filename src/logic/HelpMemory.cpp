@@ -3,13 +3,12 @@
 #include <array>
 
 #include "base/ContentFiles.h"
+#include "base/PlayerFiles.h"
 #include "logic/GameLogicLayer.h"
 #include "media/MediaWorld.h"
 
 namespace quendle {
 namespace {
-
-constexpr const char* kFile = "\\HelpSys.txt";
 
 std::array<bool*, 5> Fields(HelpMemory& help) {
   return {&help.m_bHelpMedicalBook, &help.m_bHelpPatientRoom, &help.m_bHelpToolRoom,
@@ -20,7 +19,7 @@ std::array<bool*, 5> Fields(HelpMemory& help) {
 
 void GameLogicLayer::ReadHelpMemory() {
   const ContentFiles& files = world_.media.content;
-  const std::string path = files.BaseDirectory() + kFile;
+  const std::string path = PlayerPath(files, kHelpMemoryFile);
   if (!files.FileExistsAt(path)) return;
   auto stream = files.OpenTextFileChecked(path, OpenMode::kRead, false);
   for (bool* field : Fields(help_)) {
@@ -34,7 +33,8 @@ void GameLogicLayer::ReadHelpMemory() {
 
 void GameLogicLayer::WriteHelpMemory() const {
   const ContentFiles& files = world_.media.content;
-  auto stream = files.OpenTextFileChecked(files.BaseDirectory() + kFile, OpenMode::kWrite, true);
+  auto stream =
+      files.OpenTextFileChecked(PlayerPath(files, kHelpMemoryFile), OpenMode::kWrite, true);
   HelpMemory help = help_;
   for (const bool* field : Fields(help)) stream->WriteLine(*field ? "True" : "False");
   stream->Close();

@@ -1,29 +1,27 @@
 #include "shell/AutosaveFiles.h"
 
 #include "base/ContentFiles.h"
+#include "base/PlayerFiles.h"
 
 namespace quendle {
 namespace {
 
-constexpr const char* kSavedGame = "userdata.txt";
-constexpr const char* kAutosave = "autosave.txt";
 constexpr const char* kSetAside = "autosave-tried.txt";
 
 }  // namespace
 
-std::string AutosaveFiles::PathOf(const char* name) const {
-  return files_.BaseDirectory() + "\\" + name;
-}
-
 std::string AutosaveFiles::ChooseSavedGame(bool last_run_ended_in_order) const {
-  if (last_run_ended_in_order || !files_.FileExistsAt(PathOf(kAutosave))) return kSavedGame;
-  files_.CopyFile(PathOf(kAutosave), PathOf(kSetAside));
-  files_.DeleteFileIfPresent(PathOf(kAutosave));
+  if (last_run_ended_in_order || !files_.FileExistsAt(PlayerPath(files_, kAutosaveFile)))
+    return kSavedGameFile;
+  files_.CopyFile(PlayerPath(files_, kAutosaveFile), PlayerPath(files_, kSetAside));
+  files_.DeleteFileIfPresent(PlayerPath(files_, kAutosaveFile));
   return kSetAside;
 }
 
 bool AutosaveFiles::IsSetAside(const std::string& chosen) { return chosen == kSetAside; }
 
-void AutosaveFiles::ForgetSetAside() const { files_.DeleteFileIfPresent(PathOf(kSetAside)); }
+void AutosaveFiles::ForgetSetAside() const {
+  files_.DeleteFileIfPresent(PlayerPath(files_, kSetAside));
+}
 
 }  // namespace quendle

@@ -23,7 +23,6 @@ class AutosaveFiles {
   void ForgetSetAside() const;
 
  private:
-  std::string PathOf(const char* name) const;
   const ContentFiles& files_;
 };
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "base/PlayerFiles.h"
 #include "base/Settings.h"
 #include "diagnostics/TestingObject.h"
 #include "logic/GameLogicLayer.h"
@@ -31,7 +32,7 @@ void CreateEventLog(Globals& globals) {
   globals.EventLog = std::make_unique<TestingObject>(
       globals.media.ports.files, globals.media.settings.BaseDirectory, &globals.watch);
   globals.EventLog->SetMirror(globals.debug_window);
-  globals.EventLog->Initialize("general", "general.txt", nullptr, kLogThreshold);
+  globals.EventLog->Initialize("general", kEventLogFile, nullptr, kLogThreshold);
   globals.media.log = globals.EventLog.get();
   globals.objects.log = globals.EventLog.get();
 }

@@ -19,8 +19,8 @@ class DiskSteps {
   void Watch(Watcher watcher) { watcher_ = std::move(watcher); }
 
   // Whether the operation may go on.
-  bool Allows(std::string_view operation) {
-    if (watcher_) watcher_(operation);
+  bool Allows(Operation operation) {
+    if (watcher_) watcher_(operation.Name());
     return !faults_.Fails(operation);
   }
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "platform/Faults.h"
 
 namespace quendle {
 namespace {
@@ -131,7 +130,7 @@ std::vector<std::string> MemoryFileSystem::Paths() const {
   return paths;
 }
 
-bool MemoryFileSystem::Fails(std::string_view operation) {
+bool MemoryFileSystem::Fails(Operation operation) {
   return faults_ != nullptr && faults_->Fails(operation);
 }
 

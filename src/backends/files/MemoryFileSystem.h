@@ -9,11 +9,10 @@
 #include <vector>
 
 #include "backends/files/ContentPath.h"
+#include "platform/Faults.h"
 #include "platform/FileSystem.h"
 
 namespace quendle {
-
-class Faults;
 
 // A content tree in memory, with the rules of the disk: case, refused paths, failing operations.
 // A copy is independent of its source, shares the bytes until one of the two writes, and is cheap.
@@ -63,7 +62,7 @@ class MemoryFileSystem : public FileSystem {
   // Files whose paths differ by case only.
   using Namesakes = std::vector<File>;
 
-  bool Fails(std::string_view operation);
+  bool Fails(Operation operation);
   bool FailsBeforeRename();
   void Note(const char* operation, std::string_view path);
   ContentPath SplitLoosely(std::string_view path) const;
