@@ -130,7 +130,7 @@ std::vector<std::string> MemoryFileSystem::Paths() const {
   return paths;
 }
 
-bool MemoryFileSystem::Fails(Operation operation) {
+bool MemoryFileSystem::Fails(quendle::Operation operation) {
   return faults_ != nullptr && faults_->Fails(operation);
 }
 

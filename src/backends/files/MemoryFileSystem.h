@@ -62,7 +62,7 @@ class MemoryFileSystem : public FileSystem {
   // Files whose paths differ by case only.
   using Namesakes = std::vector<File>;
 
-  bool Fails(Operation operation);
+  bool Fails(quendle::Operation operation);
   bool FailsBeforeRename();
   void Note(const char* operation, std::string_view path);
   ContentPath SplitLoosely(std::string_view path) const;
