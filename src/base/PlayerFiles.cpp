@@ -9,7 +9,9 @@ std::string PlayerPath(const ContentFiles& files, const std::string& name) {
 }
 
 void DeleteSavedGame(const ContentFiles& files) {
-  for (const char* name : {kSavedGameFile, kAutosaveFile}) {
+  for (const char* name : kKeptSaves) files.DeleteFileIfPresent(PlayerPath(files, name));
+  for (const char* name :
+       {kDamagedSavedGameFile, kDamagedAutosaveFile, kSavedGameFile, kAutosaveFile}) {
     files.DeleteFileIfPresent(PlayerPath(files, name));
   }
 }

@@ -21,6 +21,11 @@ inline constexpr const char* kGraphicsModeFile = "GraphicsMode.txt";
 inline constexpr const char* kDialogModeFile = "DialogMode.txt";
 inline constexpr const char* kEventLogFile = "general.txt";
 
+// The last saves, the newest first, and what was set aside because it couldn't be read.
+inline constexpr std::array kKeptSaves = {"userdata.txt.1", "userdata.txt.2", "userdata.txt.3"};
+inline constexpr const char* kDamagedSavedGameFile = "userdata-damaged.txt";
+inline constexpr const char* kDamagedAutosaveFile = "autosave-damaged.txt";
+
 // All that a run reads at its start.
 inline constexpr std::array kPlayerFiles = {
     kSavedGameFile,   kAutosaveFile,        kHelpMemoryFile,   kGameRunningFile, kGameModeFile,
@@ -30,7 +35,8 @@ inline constexpr std::array kPlayerFiles = {
 std::string PlayerPath(const ContentFiles& files, const std::string& name);
 
 // The reset of a game: deletes the saved game, and the autosave as well, or the next start would
-// bring the old game back. A file that can't be deleted is fatal.
+// bring the old game back; so with what was kept of older saves. A file that can't be deleted is
+// fatal.
 void DeleteSavedGame(const ContentFiles& files);
 
 }  // namespace quendle

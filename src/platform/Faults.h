@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace quendle {
 
@@ -54,8 +56,16 @@ class Faults {
     plans_[std::string(operation)] = {after, times, times == 0, lost};
   }
 
+  // Asked about each operation before any plan: how it fails, or kNone. It may throw, as if the
+  // process was stopped there.
+  using Watcher = std::function<Kind(std::string_view operation)>;
+  void Watch(Watcher watcher) { watcher_ = std::move(watcher); }
+
   // What happens to this call of `operation`.
   Kind Next(Operation operation) {
+    if (watcher_) {
+      if (const Kind kind = watcher_(operation.Name()); kind != Kind::kNone) return kind;
+    }
     if (plans_.empty()) return Kind::kNone;
     auto found = plans_.find(operation.Name());
     if (found == plans_.end()) return Kind::kNone;
@@ -78,6 +88,7 @@ class Faults {
     bool lost = false;
   };
   std::map<std::string, Entry, std::less<>> plans_;
+  Watcher watcher_;
 };
 
 }  // namespace quendle

@@ -31,11 +31,9 @@ void SettingsFiles::SaveOptions() {
 }
 
 void SettingsFiles::ReadGameMode() {
-  const std::string path = PathOf(kGameModeFile);
-  if (!files_.FileExistsAt(path)) files_.WriteOneLine(path, "Normal");
-  if (EqualsNoCase(RequiredLine(kGameModeFile, "the game mode"), "Safe")) {
-    settings_.SafeMode = true;
-  }
+  const std::optional<std::string> mode = RequiredLine(kGameModeFile, "the game mode");
+  if (!mode) files_.WriteOneLine(PathOf(kGameModeFile), "Normal");
+  if (EqualsNoCase(mode.value_or("Normal"), "Safe")) settings_.SafeMode = true;
 }
 
 bool SettingsFiles::DialogModeExists() const {
@@ -43,12 +41,7 @@ bool SettingsFiles::DialogModeExists() const {
 }
 
 bool SettingsFiles::GameRunningIsOn() const {
-  if (!files_.FileExistsAt(PathOf(kGameRunningFile))) return false;
-  return EqualsNoCase(RequiredLine(kGameRunningFile, "the word On or Off"), "on");
-}
-
-bool SettingsFiles::LastRunEndedInOrder() const {
-  return !EqualsNoCase(OptionalLine(kGameRunningFile).value_or(""), "on");
+  return EqualsNoCase(RequiredLine(kGameRunningFile, "the word On or Off").value_or(""), "on");
 }
 
 void SettingsFiles::WriteGameRunning(bool on) {
@@ -60,15 +53,16 @@ std::string SettingsFiles::PathOf(const std::string& name) const {
 }
 
 std::optional<std::string> SettingsFiles::OptionalLine(const std::string& name) const {
-  if (!files_.FileExistsAt(PathOf(name))) return std::nullopt;
-  auto stream = files_.OpenTextFileChecked(PathOf(name), OpenMode::kRead, false);
-  if (stream->AtEndOfStream()) return std::nullopt;
+  auto stream = files_.OpenPlayerFile(PathOf(name));
+  if (stream == nullptr || stream->AtEndOfStream()) return std::nullopt;
   return stream->ReadLine(name);
 }
 
-std::string SettingsFiles::RequiredLine(const std::string& name,
-                                        const std::string& expected) const {
-  return files_.OpenTextFileChecked(PathOf(name), OpenMode::kRead, false)->ReadLine(expected);
+std::optional<std::string> SettingsFiles::RequiredLine(const std::string& name,
+                                                       const std::string& expected) const {
+  auto stream = files_.OpenPlayerFile(PathOf(name));
+  if (stream == nullptr) return std::nullopt;
+  return stream->ReadLine(expected);
 }
 
 }  // namespace quendle

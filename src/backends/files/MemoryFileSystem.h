@@ -34,9 +34,9 @@ class MemoryFileSystem : public FileSystem {
       : base_directory_(std::move(base_directory)), faults_(faults) {}
 
   bool Exists(std::string_view path) override;
-  std::optional<std::string> Read(std::string_view path) override;
-  bool Write(std::string_view path, std::string_view bytes) override;
-  bool Remove(std::string_view path) override;
+  FileAnswer Read(std::string_view path) override;
+  FileChange Write(std::string_view path, std::string_view bytes) override;
+  FileChange Remove(std::string_view path) override;
   std::unique_ptr<LineWriter> CreateLineFile(std::string_view path) override;
 
   // Places a file under exactly this name, past all faults; the base directory may be left out. A
