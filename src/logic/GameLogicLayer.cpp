@@ -4,6 +4,7 @@
 
 #include "base/ContentFiles.h"
 #include "base/Numbers.h"
+#include "base/PlayerFiles.h"
 #include "base/Settings.h"
 #include "base/Watch.h"
 #include "logic/GameVerbs.h"
@@ -20,11 +21,8 @@
 namespace quendle {
 namespace {
 
-constexpr const char* kAutosave = "autosave.txt";
-constexpr const char* kSavedGame = "userdata.txt";
 constexpr int kAutosaveDraws = 1200;  // once a minute
 constexpr std::int32_t kMusicVolume = -400;
-constexpr int kWarningLevel = 10;
 // Deeper than a message of its own, an event comes from content.
 constexpr int kDeepestInput = 1;
 
@@ -109,10 +107,15 @@ void GameLogicLayer::TurnOff() {
   host_.ShowPointer(true);
   // A start that was broken off has nothing to save, and must not overwrite what is there.
   if (m_ptrScreenKeeper == nullptr) return;
-  if (!m_bGameReset) m_ptrScreenKeeper->SaveGame(kSavedGame);
+  // An autosave that is there wins over the saved game, so it must not be the older one: stopped
+  // between any two of these steps, the next start has all that was played.
+  if (!m_bGameReset) {
+    Autosave();
+    m_ptrScreenKeeper->SaveGame(kSavedGameFile);
+  }
   WriteHelpMemory();
   const ContentFiles& files = world_.media.content;
-  files.DeleteFileIfPresent(files.BaseDirectory() + "\\" + kAutosave);
+  files.TryDelete(PlayerPath(files, kAutosaveFile));
 }
 
 void GameLogicLayer::Release() {
@@ -247,9 +250,7 @@ void GameLogicLayer::PlaySound() {
 bool GameLogicLayer::Autosave() {
   draws_since_autosave_ = 0;
   if (m_bGameReset || m_ptrScreenKeeper == nullptr) return false;
-  if (m_ptrScreenKeeper->WriteSnapshot(kAutosave)) return true;
-  world_.LogGeneral("The autosave could not be written", kWarningLevel);
-  return false;
+  return m_ptrScreenKeeper->WriteSnapshot(kAutosaveFile);
 }
 
 }  // namespace quendle

@@ -183,6 +183,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   bool m_bDialogActive = false;
   bool m_bSkipNextClick = false;
   HelpMemory help_;
+  bool help_is_open_ = false;  // it couldn't be read: what stands there isn't overwritten
   std::weak_ptr<InputRecorder> m_ptrTester;
   bool music_paused_ = false;  // by a loss of focus, while it played
   double music_position_ = 0;  // seconds, where it was paused

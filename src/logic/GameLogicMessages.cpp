@@ -4,6 +4,7 @@
 
 #include "base/ContentFiles.h"
 #include "base/Numbers.h"
+#include "base/PlayerFiles.h"
 #include "base/ProcessEnds.h"
 #include "base/SF_Strings.h"
 #include "base/Settings.h"
@@ -341,9 +342,7 @@ void GameLogicLayer::StopMusic() {
 }
 
 void GameLogicLayer::ResetGame() {
-  const ContentFiles& files = world_.media.content;
-  files.DeleteFileIfPresent(files.BaseDirectory() + "\\userdata.txt");
-  files.DeleteFileIfPresent(files.BaseDirectory() + "\\autosave.txt");
+  DeleteSavedGame(world_.media.content);
   m_bGameReset = true;
 }
 

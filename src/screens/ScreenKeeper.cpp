@@ -157,36 +157,42 @@ void ScreenKeeper::RestoreMemento(const ObjectRef& screen) {
   for (const auto& entry : m_colMementos) {
     if (!EqualsNoCase(entry.value->ObjectName(), screen->ObjectName())) continue;
     GameObjectMemento::Ref memento = entry.value;
+    restoring_ = true;
     screen->LoadMemento(*memento);
+    restoring_ = false;
     return;
   }
 }
 
 void ScreenKeeper::LoadGame(const std::string& file_name) {
-  const ContentFiles& files = world_.media.content;
-  const std::string path = FullPath(file_name);
-  if (!files.FileExistsAt(path)) return;
-  auto stream = files.OpenTextFileChecked(path, OpenMode::kRead, false);
-  stream->ReadLine("the first line of a saved game");
-  ReadMementos(*stream);
+  auto stream = world_.media.content.OpenPlayerFile(FullPath(file_name));
+  if (stream == nullptr) return;
+  ReadSavedGame(*stream, world_.watch.depth, m_colMementos);
   stream->Close();
 }
 
-void ScreenKeeper::ReadMementos(TextStream& stream) {
+void ScreenKeeper::ReadSavedGame(TextStream& stream, WorkDepth& depth,
+                                 GameObjectMemento::List& list) {
+  stream.ReadLine("the first line of a saved game");
   while (!EqualsNoCase(stream.ReadLine("\"begin\" or \"end\" of a saved game"), "end")) {
     auto memento = std::make_shared<GameObjectMemento>();
-    memento->LoadFromFile(stream, world_.watch.depth);
+    memento->LoadFromFile(stream, depth);
     std::string name = memento->ObjectName();
-    m_colMementos.Add(std::move(memento), std::move(name), stream.Place());
+    list.Add(std::move(memento), std::move(name), stream.Place());
   }
 }
 
 void ScreenKeeper::SaveGame(const std::string& file_name) {
   SaveAllMementos();
-  auto stream =
-      world_.media.content.OpenTextFileChecked(FullPath(file_name), OpenMode::kWrite, true);
-  WriteMementos(*stream, m_colMementos);
-  stream->Close();
+  std::string bytes;
+  TextComposer composer(bytes);
+  WriteMementos(composer, m_colMementos);
+  if (world_.media.content.TryWrite(FullPath(file_name), bytes)) return;
+  throw FatalError::WithBox(
+      "The game could not be saved in " + file_name +
+          ": the disk is full, or it may not be written to.\nWhat was kept of it before comes back "
+          "with the next start.",
+      {file_name, 0});
 }
 
 bool ScreenKeeper::WriteSnapshot(const std::string& file_name) const {
@@ -197,7 +203,7 @@ bool ScreenKeeper::WriteSnapshot(const std::string& file_name) const {
   std::string bytes;
   TextComposer composer(bytes);
   WriteMementos(composer, list);
-  return world_.media.ports.files.Write(FullPath(file_name), bytes);
+  return world_.media.content.TryWrite(FullPath(file_name), bytes);
 }
 
 void ScreenKeeper::SaveAllMementos() {

@@ -19,6 +19,8 @@ namespace {
 constexpr int kMinimisePicture = 7;
 constexpr int kOldestSystem = 5;
 constexpr std::int16_t kSiblingEdition = 1;
+constexpr const char* kOptionsNotSaved =
+    "What was chosen could not be kept: the disk is full, or it may not be written to.";
 
 }  // namespace
 
@@ -52,6 +54,9 @@ void TandrelPrompt::Load() {
 
 void TandrelPrompt::Unload() {
   SaveOptions();
+  if (services_.files.HasUnsaved()) {
+    boxes_.MessageBox(services_.settings.ProductName, kOptionsNotSaved);
+  }
   throw ProcessEnds{false};
 }
 
