@@ -27,7 +27,8 @@ const ModelObject* RootScreen(const ModelInstance& instance) {
 
 }  // namespace
 
-ContentFlow::ContentFlow(const ContentModel& model) : model_(model), router_(model) {
+ContentFlow::ContentFlow(const ContentModel& model)
+    : model_(model), router_(model), chains_(router_, faults_) {
   Walk(false);
   // Now it is known where global objects are added, so their own messages can be followed.
   std::set<std::pair<const ModelObject*, const ModelObject*>> added;
@@ -95,6 +96,7 @@ void ContentFlow::WalkStatement(const ModelObject& object, const Command& node,
     switch (statement.Verb()) {
       case StatementVerb::kMtp:
         Message(object, word, node.Place(), instances, tell_this);
+        if (tell) chains_.Follow(instances, node.Place(), word, states);
         break;
       case StatementVerb::kChange:
       case StatementVerb::kRunState:

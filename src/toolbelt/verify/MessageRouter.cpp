@@ -166,6 +166,9 @@ Verdict MessageRouter::ToPlainObject(const ModelInstance& receiver, Call& call) 
   if (verb_holds("showobj")) return ShowOrHide(receiver, call, false, false);
   if (verb_holds("runscript")) {
     if (!call.Needs(2)) return call.Short();
+    if (call.effects.events != nullptr) {
+      call.effects.events->push_back({receiver, "nothing", call.Word(2)});
+    }
     if (EqualsNoCase(call.Word(2), "nothing") || !object.scripts_known ||
         object.Script(call.Word(2)) != nullptr) {
       return {};
@@ -179,6 +182,7 @@ Verdict MessageRouter::ToPlainObject(const ModelInstance& receiver, Call& call) 
   if (call.Is("useraction")) {
     if (!call.Needs(2)) return call.Short();
     call.effects.actions.insert(FoldCase(call.Word(2)));
+    if (call.effects.events != nullptr) call.effects.events->push_back({receiver, call.Word(2)});
     return {};
   }
   if (verb_holds("hidetype")) return ShowOrHide(receiver, call, true, true);
