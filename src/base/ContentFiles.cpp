@@ -9,6 +9,10 @@
 namespace quendle {
 namespace {
 
+// Two hundred times the longest text of the demo clinic. What is made of a text takes up to forty
+// times its room.
+constexpr std::size_t kMostTextBytes = 4'000'000;
+
 // Collects lines and replaces the file as a whole at Close; a stream that is dropped before
 // writes nothing, so a fault in the middle leaves the old file.
 class TextWriter : public TextStream {
@@ -122,11 +126,15 @@ const std::string& ContentFiles::BaseDirectory() const { return settings_.BaseDi
 
 std::string ContentFiles::ReadExisting(const std::string& path) const {
   FileAnswer answer = Read(path);
-  if (answer) return std::move(*answer);
   if (answer.IsMissing()) {
     throw FatalError::WithBox("File " + path + " not found", {DisplayName(path), 0});
   }
-  throw FatalError("the file can't be read: " + answer.reason, {DisplayName(path), 0});
+  if (!answer) throw FatalError("the file can't be read: " + answer.reason, {DisplayName(path), 0});
+  if (answer->size() > kMostTextBytes) {
+    throw FatalError("the file has more than 4 million bytes: no text of a game is that long",
+                     {DisplayName(path), 0});
+  }
+  return std::move(*answer);
 }
 
 }  // namespace quendle

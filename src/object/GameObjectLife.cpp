@@ -8,6 +8,7 @@
 #include "media/ObjectPicture.h"
 #include "media/SoundState.h"
 #include "object/GameObject.h"
+#include "object/ObjectFactory.h"
 #include "object/ObjectVerbs.h"
 #include "script/ActionText.h"
 #include "script/ScriptState.h"
@@ -16,11 +17,15 @@
 namespace quendle {
 namespace {
 
-// True if `wanted` is `tree` or hangs anywhere below it.
-bool Holds(GameObjectInterface& tree, const GameObjectInterface* wanted) {
+// True if `wanted` is `tree` or hangs anywhere below it. A tree that is too deep is fatal.
+bool Holds(GameObjectInterface& tree, const GameObjectInterface* wanted, WorkDepth& depth,
+           int level) {
   if (&tree == wanted) return true;
+  if (level > kDeepestNesting) throw FatalError(NestedTooDeep(tree.ObjectName()));
+  if (tree.Children().Empty()) return false;
+  const DepthGuard guard(depth, Work::kTreeWalk, tree.ObjectName());
   for (const auto& entry : tree.Children()) {
-    if (Holds(*entry.value, wanted)) return true;
+    if (Holds(*entry.value, wanted, depth, level + 1)) return true;
   }
   return false;
 }
@@ -184,7 +189,7 @@ void GameObject::AddChildObject(ObjectRef child) {
 }
 
 void GameObject::AttachChild(ObjectRef child) {
-  if (Holds(*child, SelfReference_)) {
+  if (Holds(*child, SelfReference_, world_.watch.depth, 2)) {
     throw FatalError("\"" + child->ObjectName() + "\" can't become a child of \"" + WorkPath() +
                      "\", which it holds");
   }

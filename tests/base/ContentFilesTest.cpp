@@ -56,6 +56,15 @@ TEST_F(ContentFilesTest, AFileIsReadLineByLine) {
   EXPECT_EQ(stream->Place().line, 3);
 }
 
+TEST_F(ContentFilesTest, ATextOfMoreThanFourMillionBytesIsFatal) {
+  disk_.Put("\\Info\\door.txt", std::string(4'000'000, '0'));
+  EXPECT_NO_THROW(files_.OpenTextFileChecked(door_, OpenMode::kRead, false));
+  disk_.Put("\\Info\\door.txt", std::string(4'000'001, '0'));
+  EXPECT_EQ(
+      FaultOf([&] { files_.OpenTextFileChecked(door_, OpenMode::kRead, false); }).what,
+      "Info\\door.txt: the file has more than 4 million bytes: no text of a game is that long");
+}
+
 TEST_F(ContentFilesTest, AMissingFileIsFatalWithExactlyTheBoxThatNamesIt) {
   for (OpenMode mode : {OpenMode::kRead, OpenMode::kWrite}) {
     Fault fault = FaultOf([&] { files_.OpenTextFileChecked(door_, mode, false); });

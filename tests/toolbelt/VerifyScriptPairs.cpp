@@ -21,6 +21,17 @@ Plant Branch(const std::string& pattern) {
               "elseif action = " + pattern + "\nchange default\nelseif action = gamewon");
 }
 
+// The dog answers each of `count` actions by sending the next one `times` times.
+Plant Row(int count, int times) {
+  std::string lines = "begin\nif action = hop\nmtp useraction_a1\n";
+  for (int i = 1; i < count; ++i) {
+    lines += "elseif action = a" + std::to_string(i) + "\n";
+    for (int k = 0; k < times; ++k) lines += "mtp useraction_a" + std::to_string(i + 1) + "\n";
+  }
+  return Well(lines + "elseif action = a" + std::to_string(count) +
+              "\nchange default\nendif\nend\n");
+}
+
 // A statement of the play button, in front of its own.
 Plant Play(const std::string& line) {
   return Edit("Play1\\pressscript.txt", "mtp toobj", line + "\nmtp toobj");
@@ -128,6 +139,18 @@ std::vector<CheckPair> ScriptPairs() {
        Edit("soap\\toolwonscript.txt", "<objectname>info", "<rootobjectname>info")},
       {"V709", kDoor, Door("mtp toobj_subgamedoor_runscript_press"),
        Door("mtp toobj_shelfdoor_runscript_press")},
+      {"V710", "Info\\dog\\wellscript.txt:3",
+       Well("begin\nif action = hop\nmtp useraction_hop\nendif\nend\n"),
+       Well("begin\nif action = hop\nchange default\nmtp useraction_hop\nendif\nend\n")},
+      {"V710", "Info\\dog\\wellscript.txt:5",
+       Well("begin\nif action = hop\nmtp toobj_dog_useraction_skip\nelseif action = skip\n"
+            "mtp toscreen_currentscreen_useraction_hop\nendif\nend\n"),
+       Well("begin\nif action = hop\nmtp toobj_dog_useraction_skip\nelseif action = skip\n"
+            "mtp toscreen_currentscreen_useraction_jump\nendif\nend\n")},
+      {"V710", "Info\\dog\\wellscript.txt:2", Well("begin\nmtp toobj_dog_runscript_well\nend\n"),
+       Well("begin\nmtp toobj_dog_runscript_treat\nend\n")},
+      {"V711", "Info\\dog\\wellscript.txt:52", Row(30, 2), Row(30, 1)},
+      {"V711", "Info\\dog\\wellscript.txt:198", Row(5000, 1), Row(90, 1)},
   };
 }
 

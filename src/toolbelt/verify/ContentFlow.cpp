@@ -31,7 +31,8 @@ const ModelObject* RootScreen(const ModelInstance& instance) {
 
 }  // namespace
 
-ContentFlow::ContentFlow(const ContentModel& model) : model_(model), router_(model) {
+ContentFlow::ContentFlow(const ContentModel& model)
+    : model_(model), router_(model), chains_(router_, faults_) {
   Walk(false);
   // Now it is known where global objects are added, so their own messages can be followed.
   std::set<std::pair<const ModelObject*, const ModelObject*>> added;
@@ -99,6 +100,7 @@ void ContentFlow::WalkStatement(const ModelObject& object, const Command& node,
     switch (statement.Meaning()) {
       case StatementMeaning::kMessage:
         Message(object, word, node.Place(), instances, tell_this);
+        if (tell) chains_.Follow(instances, node.Place(), word, states);
         break;
       case StatementMeaning::kState:
         EnterOwn(object, word, node.Place(), false, tell_this);

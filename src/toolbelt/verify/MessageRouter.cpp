@@ -140,10 +140,11 @@ Verdict MessageRouter::ToPlainObject(const ModelInstance& receiver, Call& call) 
     case ObjectVerb::kHideType:
       return ShowOrHide(receiver, call, true, true);
     case ObjectVerb::kRunScript:
-      return RunScript(object, call);
+      return RunScript(receiver, call);
     case ObjectVerb::kUserAction:
       if (!call.Needs(2)) return call.Short();
       call.effects.actions.insert(FoldCase(call.Word(2)));
+      if (call.effects.events != nullptr) call.effects.events->push_back({receiver, call.Word(2)});
       return {};
     case ObjectVerb::kAddGlobalObj:
       return AddGlobal(object, call);
@@ -163,8 +164,12 @@ Verdict MessageRouter::ToPlainObject(const ModelInstance& receiver, Call& call) 
   return {};
 }
 
-Verdict MessageRouter::RunScript(const ModelObject& object, const Call& call) {
+Verdict MessageRouter::RunScript(const ModelInstance& receiver, Call& call) {
+  const ModelObject& object = *receiver.back();
   if (!call.Needs(2)) return call.Short();
+  if (call.effects.events != nullptr) {
+    call.effects.events->push_back({receiver, "nothing", call.Word(2)});
+  }
   if (IsNothing(call.Word(2)) || !object.scripts_known || object.Script(call.Word(2)) != nullptr) {
     return {};
   }

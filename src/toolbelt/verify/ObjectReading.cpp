@@ -16,6 +16,11 @@ ModelObjectRef TreeReader::ReadObject(const NamedFile& file, ModelRole role, Mod
                   "\"" + file.stored + "\" is read already: an object can't hold itself");
     return nullptr;
   }
+  if (open_.size() >= static_cast<std::size_t>(kDeepestNesting)) {
+    findings_.Add(Check::kTooDeep, file.object, file.place,
+                  NestedTooDeep(gate_.DisplayName(file.resolved)));
+    return nullptr;
+  }
   if (const auto known = known_.find(key); known != known_.end()) {
     gate_.Names(file);
     if (known->second != nullptr && parent != nullptr) known->second->parents.push_back(parent);

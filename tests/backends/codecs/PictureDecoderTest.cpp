@@ -206,6 +206,15 @@ TEST(PictureDecoder, APhotographJustBelowFiftyMillionPointsIsDecoded) {
   EXPECT_EQ(decoded.picture.At(1074, 724), 0x808080u);
 }
 
+TEST(PictureDecoder, AJpegOfMoreThanSixtyMillionBytesIsRefused) {
+  std::string bytes = TestData("photograph.jpg");
+  bytes.resize(60'000'000, '\0');
+  EXPECT_EQ(DecodePicture(bytes).problem, "");
+  bytes += '\0';
+  EXPECT_EQ(DecodePicture(bytes).problem,
+            "This file is too large for a photograph. Please choose another one.");
+}
+
 TEST(PictureDecoder, MoreThanFiftyMillionPointsAreRefusedBeforeAnythingIsDecoded) {
   const std::string jpeg =
       Bytes({0xFF, 0xD8, 0xFF, 0xC0, 0, 17,   8, 0x27, 0x10, 0x27, 0x10, 3,    1,   0x22,
