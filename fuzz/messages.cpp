@@ -10,7 +10,9 @@
 #include "Fuzz.h"
 #include "base/TextStream.h"
 #include "logic/LogicBench.h"
+#include "subgames/PointSystemObject.h"
 #include "subgames/SubgameClasses.h"
+#include "subgames/SubgameObject.h"
 
 using namespace quendle;
 
@@ -53,7 +55,9 @@ void Do(LogicBench& bench, const std::string& line) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   TextReader lines(std::string(BytesOf(data, size)), "messages.txt");
   LogicBench bench;
-  RegisterSubgameClasses(bench.factory);
+  bench.Register<SubgameObject>("subgame");
+  bench.Register<PointSystemObject>("pointsystem");
+  RegisterPlayAreas(bench.factory);
   PutArcadeScreens(bench.files);
   bench.Start();
   EndsWell([&] {
