@@ -4,7 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "backends/desktop/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace quendle {
 namespace {
