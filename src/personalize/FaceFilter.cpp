@@ -22,7 +22,9 @@ int ToByte(double value) {
 // The two pixels next to a place on one axis and the weight of the second one.
 struct Neighbours {
   Neighbours(double place, int extent)
-      : first(floor(place)), second(first + 1 >= extent ? first : first + 1), part(place - first) {}
+      : first(RoundHalfBelow(place)),
+        second(first + 1 >= extent ? first : first + 1),
+        part(place - first) {}
   int first;
   int second;
   double part;
@@ -35,9 +37,9 @@ std::uint8_t BlendChannel(int channel1, int channel2, int alpha) {
 
 }  // namespace
 
-std::int16_t floor(double x) { return ToInt16(x - 0.5, "place in a picture"); }
+std::int16_t RoundHalfBelow(double x) { return ToInt16(x - 0.5, "place in a picture"); }
 
-std::int16_t ceiling(double x) { return ToInt16(x + 0.5, "place in a picture"); }
+std::int16_t RoundHalfAbove(double x) { return ToInt16(x + 0.5, "place in a picture"); }
 
 std::uint8_t ExtractR(Color color) { return static_cast<std::uint8_t>(color & 255); }
 

@@ -9,10 +9,9 @@
 namespace quendle::face {
 
 // x minus 0.5, to the nearest integer with ties to the even one: 1.0 gives 0, 3.0 and 2.0 give 2.
-// Not the mathematical function.
-std::int16_t floor(double x);
-// x plus 0.5, rounded the same way.
-std::int16_t ceiling(double x);
+std::int16_t RoundHalfBelow(double x);
+// x plus 0.5, rounded the same way. Nothing asks for it: the other neighbour is one further.
+std::int16_t RoundHalfAbove(double x);
 
 std::uint8_t ExtractR(Color color);
 std::uint8_t ExtractG(Color color);

@@ -17,6 +17,7 @@ class BoardCanvas {
   BoardCanvas(const BoardCanvas&) = delete;
   BoardCanvas& operator=(const BoardCanvas&) = delete;
 
+  // Nothing asks for the two: the board is seen as its tiles.
   ContextHandle Context() const { return context_; }
   const SurfaceRef& OffScreen() const { return surface_; }
 

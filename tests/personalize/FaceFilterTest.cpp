@@ -6,20 +6,20 @@ namespace quendle {
 namespace {
 
 TEST(FaceFilter, FloorIsHalfBelowRoundedToEven) {
-  EXPECT_EQ(face::floor(1.0), 0);
-  EXPECT_EQ(face::floor(2.0), 2);
-  EXPECT_EQ(face::floor(3.0), 2);
-  EXPECT_EQ(face::floor(0.0), 0);
-  EXPECT_EQ(face::floor(0.4), 0);
-  EXPECT_EQ(face::floor(1.7), 1);
-  EXPECT_EQ(face::floor(-1.0), -2);
+  EXPECT_EQ(face::RoundHalfBelow(1.0), 0);
+  EXPECT_EQ(face::RoundHalfBelow(2.0), 2);
+  EXPECT_EQ(face::RoundHalfBelow(3.0), 2);
+  EXPECT_EQ(face::RoundHalfBelow(0.0), 0);
+  EXPECT_EQ(face::RoundHalfBelow(0.4), 0);
+  EXPECT_EQ(face::RoundHalfBelow(1.7), 1);
+  EXPECT_EQ(face::RoundHalfBelow(-1.0), -2);
 }
 
 TEST(FaceFilter, CeilingIsHalfAboveRoundedToEven) {
-  EXPECT_EQ(face::ceiling(1.0), 2);
-  EXPECT_EQ(face::ceiling(2.0), 2);
-  EXPECT_EQ(face::ceiling(3.0), 4);
-  EXPECT_EQ(face::ceiling(0.2), 1);
+  EXPECT_EQ(face::RoundHalfAbove(1.0), 2);
+  EXPECT_EQ(face::RoundHalfAbove(2.0), 2);
+  EXPECT_EQ(face::RoundHalfAbove(3.0), 4);
+  EXPECT_EQ(face::RoundHalfAbove(0.2), 1);
 }
 
 TEST(FaceFilter, RedIsInTheLowByte) {
