@@ -45,6 +45,7 @@ class Onlookers {
 
 int Play(DesktopBackend& backend) {
   Application application(backend.GetPorts(), kEdition, backend.BaseDirectory());
+  application.SetForgiving(true);
   const Onlookers onlookers(backend, application);
   if (backend.Tester()) {
     application.SetTester({*backend.Tester(), backend.Seed(),

@@ -13,6 +13,7 @@
 #include <iterator>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "backends/raster/RasterDirectDraw.h"
@@ -33,13 +34,15 @@ class InputFiles : public FileSystem {
  public:
   explicit InputFiles(std::string folder) : folder_(std::move(folder)) {}
   bool Exists(std::string_view) override { return true; }
-  std::optional<std::string> Read(std::string_view path) override {
+  FileAnswer Read(std::string_view path) override {
     std::ifstream file(folder_ + std::string(path), std::ios::binary);
-    if (!file) return std::nullopt;
+    if (!file) return FileAnswer();
     return std::string(std::istreambuf_iterator<char>(file), {});
   }
-  bool Write(std::string_view, std::string_view) override { return false; }
-  bool Remove(std::string_view) override { return false; }
+  FileChange Write(std::string_view, std::string_view) override {
+    return FileChange::Failed("read only");
+  }
+  FileChange Remove(std::string_view) override { return FileChange::Failed("read only"); }
   std::unique_ptr<LineWriter> CreateLineFile(std::string_view) override { return nullptr; }
 
  private:

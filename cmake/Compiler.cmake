@@ -74,4 +74,7 @@ if(fatal_warnings STREQUAL "AUTO")
 endif()
 if(fatal_warnings)
   target_compile_options(quendle_flags INTERFACE -Werror)
+else()
+  # Whatever the compiler: a place that forgets a new enumerator is no matter of taste.
+  target_compile_options(quendle_flags INTERFACE -Werror=switch)
 endif()

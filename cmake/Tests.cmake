@@ -71,6 +71,13 @@ function(quendle_scenarios)
   set_tests_properties(scenario.photograph_stays PROPERTIES
     TIMEOUT 300 LABELS scenario SKIP_RETURN_CODE 77
     ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  if(TARGET wumbly)
+    add_test(NAME scenario.ended_by_the_system
+             COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/scenarios/ended_by_the_system.py
+                     $<TARGET_FILE:wumbly> ${QUENDLE_CONTENT_DIR})
+    set_tests_properties(scenario.ended_by_the_system PROPERTIES
+      TIMEOUT 300 LABELS scenario ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  endif()
 endfunction()
 
 # Every session tests/recordings/NAME.txt becomes the test `recording.NAME`.
@@ -90,6 +97,13 @@ function(quendle_recordings)
     set_tests_properties(recording.${name} PROPERTIES
       TIMEOUT 300 LABELS recording ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
   endforeach()
+endfunction()
+
+# Scripts for daily work that have tests of their own.
+function(quendle_scripts)
+  add_test(NAME scripts.mutate
+           COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/scripts/mutate_test.py)
+  set_tests_properties(scripts.mutate PROPERTIES TIMEOUT 60 LABELS scripts)
 endfunction()
 
 # What the pages say: links, the tutorial from its first line to its last, the manual.

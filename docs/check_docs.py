@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks the pages: every link leads somewhere, every test that oddities.md names exists."""
+"""Checks the pages: every link leads somewhere, every test that oddities.md names exists, and
+automation.md names the operations that can be made to fail."""
 import pathlib
 import re
 import sys
@@ -51,10 +52,21 @@ def missing_tests():
                 yield f"docs/oddities.md: {name} is no test"
 
 
+def operations_told_wrong():
+    listed = (ROOT / "src/platform/Faults.h").read_text().split("kOperationsThatCanFail = {")[1]
+    known = set(re.findall(r'"(\w+)"', listed.split("};")[0]))
+    page = (ROOT / "docs/automation.md").read_text()
+    table = page.split("Operations that can fail:")[1].split("##")[0]
+    told = set(re.findall(r"`(\w+)`", table))
+    for name in sorted(known ^ told):
+        yield f"docs/automation.md: {name} is {'not told' if name in known else 'no operation'}"
+
+
 def main():
     pages = sorted(p for p in ROOT.glob("*.md")) + sorted((ROOT / "docs").rglob("*.md"))
     problems = [problem for page in pages for problem in broken_links(page)]
     problems += missing_tests()
+    problems += operations_told_wrong()
     print("\n".join(problems) or "All links lead somewhere, all tests exist.")
     return 1 if problems else 0
 

@@ -1,6 +1,7 @@
 // A script: parsed, printed, and run for the action texts in the lines before the line "==".
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Fuzz.h"

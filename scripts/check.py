@@ -66,6 +66,13 @@ def step_rooms():
             and run("rooms", sys.executable, script)), 1
 
 
+def step_includes():
+    """Each file includes what it names, each header compiles by itself"""
+    script = ROOT / "scripts/check_includes.py"
+    return (run("includes", sys.executable, script, "--self-test")
+            and run("includes", sys.executable, script, "--compile", "c++")), 1
+
+
 def step_packages():
     """Each package that is installed has its reason in the README"""
     setup = (ROOT / "scripts/setup.sh").read_text()
@@ -125,7 +132,7 @@ def step_sanitizers():
 
 
 STEPS = {function.__name__.removeprefix("step_"): function for function in (
-    step_format, step_rooms, step_packages, step_build, step_tidy, step_tests, step_content,
+    step_format, step_rooms, step_includes, step_packages, step_build, step_tidy, step_tests, step_content,
     step_docs, step_sanitizers)}
 NEED_BUILD = {"tidy", "tests", "content", "docs", "sanitizers"}
 
@@ -174,6 +181,8 @@ def unit_counts(report):
 
 
 def main():
+    if sys.argv[1:2] == ["mutants"]:
+        return subprocess.call([sys.executable, ROOT / "scripts/mutate.py", *sys.argv[2:]])
     wanted = sys.argv[1:] or list(STEPS)
     unknown = [word for word in wanted if word not in STEPS]
     if unknown:

@@ -177,9 +177,12 @@ CASES = [
      '"subgamedone" finds no previous screen to go back to', ["play", "send subgamedone"]),
     ("../messages.md", POND + "duck.txt", (ADD,), '"screenprevious" finds no previous screen',
      ENTER + ["send screenprevious", "send screenprevious"]),
+    ("README.md", POND + "duck.txt", (LINE, 4, "0" * 4_000_001),
+     "the file has more than 4 million bytes: no text of a game is that long"),
     ("README.md", POND + "pondroomchildren.txt",
      (LINE, 1, "<CurrentDirectory>\\pondroom.txt"),
-     "more than 200 levels deep: the content goes round in circles at …"),
+     "more than 60 objects inside one another: the content goes round in circles at object file "
+     '"Info\\\\Pond\\\\pondroom.txt"'),
     ("settings.md", "\\GameMode.txt", (CUT, 0),
      "the file ends where the game mode should stand", ["start"]),
     ("settings.md", "\\GameRunning.txt", (CUT, 0),

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "base/SF_Strings.h"
 
@@ -29,6 +30,42 @@ constexpr std::array<unsigned, 32> kHighControls = {
     0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2026, 0x2020, 0x2021, 0x2C6,  0x2030, 0x160,
     0x2039, 0x152,  0x8D,   0x17D,  0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E,  0x178};
+
+constexpr char32_t kNoCharacter = 0xFFFFFFFF;
+
+// A character of UTF-8, or kNoCharacter, and how many bytes it takes.
+struct Utf8Character {
+  char32_t code = kNoCharacter;
+  std::size_t size = 1;
+};
+
+std::size_t SizeBehindLead(unsigned char lead) {
+  if (lead < 0xC2 || lead > 0xF4) return 1;
+  return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+}
+
+// The character at the front of a text that isn't empty. One of four bytes has no place in 8-bit
+// text, whichever it is.
+Utf8Character FrontOf(std::string_view utf8) {
+  const auto lead = static_cast<unsigned char>(utf8.front());
+  if (lead < 0x80) return {lead, 1};
+  const std::size_t size = SizeBehindLead(lead);
+  char32_t code = lead & (0x7FU >> size);
+  for (std::size_t i = 1; i < size; ++i) {
+    const unsigned char next = i < utf8.size() ? static_cast<unsigned char>(utf8[i]) : 0;
+    if ((next & 0xC0) != 0x80) return {kNoCharacter, i};
+    code = code << 6 | (next & 0x3FU);
+  }
+  const bool known = size == 2 || (size == 3 && code >= 0x800);
+  return {known ? code : kNoCharacter, size};
+}
+
+std::optional<char> ByteOf(char32_t code) {
+  if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) return static_cast<char>(code);
+  const auto found = std::ranges::find(kHighControls, code);
+  if (found == kHighControls.end()) return std::nullopt;
+  return static_cast<char>(0x80 + (found - kHighControls.begin()));
+}
 
 unsigned char Fold(char c) { return kFold[static_cast<unsigned char>(c)]; }
 
@@ -108,6 +145,28 @@ std::string ToUtf8(std::string_view text) {
     }
   }
   return utf8;
+}
+
+std::optional<std::string> FromUtf8(std::string_view utf8) {
+  std::string text;
+  while (!utf8.empty()) {
+    const Utf8Character character = FrontOf(utf8);
+    const std::optional<char> byte = ByteOf(character.code);
+    if (!byte) return std::nullopt;
+    text += *byte;
+    utf8.remove_prefix(character.size);
+  }
+  return text;
+}
+
+std::string FromUtf8LeavingOut(std::string_view utf8) {
+  std::string text;
+  while (!utf8.empty()) {
+    const Utf8Character character = FrontOf(utf8);
+    if (const std::optional<char> byte = ByteOf(character.code)) text += *byte;
+    utf8.remove_prefix(character.size);
+  }
+  return text;
 }
 
 }  // namespace quendle

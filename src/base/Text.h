@@ -1,6 +1,7 @@
 // Text without regard to case, in the 8-bit character set of content (Windows-1252).
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,5 +38,12 @@ std::string WavToWma(std::string_view path);
 
 // Text in UTF-8 of 8-bit text, for output that people and tools read.
 std::string ToUtf8(std::string_view text);
+
+// The 8-bit text of UTF-8; nothing when a character has no place in the 8-bit set or the bytes
+// aren't UTF-8.
+std::optional<std::string> FromUtf8(std::string_view utf8);
+
+// The same for texts that only have to be read: what has no place is left out.
+std::string FromUtf8LeavingOut(std::string_view utf8);
 
 }  // namespace quendle

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "base/Text.h"
 #include "diagnostics/ClickTrail.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <functional>
+#include <utility>
 
 #include "base/FatalError.h"
 #include "base/Text.h"

@@ -12,11 +12,24 @@ TestingObject::TestingObject(FileSystem& files, std::string base_directory, Watc
 
 void TestingObject::Initialize(const std::string& category, const std::string& file_name,
                                ObjectRef object, std::int16_t level) {
+  if (!TryInitialize(category, file_name, level)) {
+    throw FatalError("the event log can't be created", {file_name, 0});
+  }
+  if (object != nullptr) attached_.Add(std::move(object), category);
+}
+
+bool TestingObject::TryInitialize(const std::string& category, const std::string& file_name,
+                                  std::int16_t level) {
   std::unique_ptr<LineWriter> stream = files_.CreateLineFile(base_directory_ + "\\" + file_name);
-  if (stream == nullptr) throw FatalError("the event log can't be created", {file_name, 0});
+  if (stream == nullptr) return false;
   streams_.Add(std::move(stream), category);
   thresholds_.Add(level, category);
-  if (object != nullptr) attached_.Add(std::move(object), category);
+  return true;
+}
+
+void TestingObject::InitializeWithoutFile(const std::string& category, std::int16_t level) {
+  streams_.Add(nullptr, category);
+  thresholds_.Add(level, category);
 }
 
 void TestingObject::RegisterNewEventFile(const std::string& category, const std::string& file_name,
@@ -30,7 +43,7 @@ void TestingObject::LogEvent(std::string_view message, int level, std::string_vi
   if (watch_ != nullptr) watch_->Trace(TraceKind::kLog, category, "", message);
   if (mirror_ != nullptr) mirror_->PutOnTop(message);
   if (write_to_file_) {
-    streams_.Item(category)->WriteLine(message);
+    if (LineWriter* stream = streams_.Item(category).get()) stream->WriteLine(message);
   } else if (window_ != nullptr) {
     window_->PutOnTop(message);
   }

@@ -28,7 +28,12 @@ class TestingObject : public EventSink {
   // A category that is registered, or a file that can't be made, is fatal.
   void Initialize(const std::string& category, const std::string& file_name, ObjectRef object,
                   std::int16_t level);
-  // The same without an object, with a first line.
+  // The same without an object; false when the file can't be made. The category isn't registered
+  // then.
+  bool TryInitialize(const std::string& category, const std::string& file_name, std::int16_t level);
+  // Registers a category whose messages reach no file.
+  void InitializeWithoutFile(const std::string& category, std::int16_t level);
+  // As Initialize without an object, with a first line.
   void RegisterNewEventFile(const std::string& category, const std::string& file_name,
                             std::int16_t level);
   // Logs if the category's threshold is at or above the level: lower levels are the more

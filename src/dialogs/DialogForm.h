@@ -14,6 +14,7 @@ class DialogForm : public PictureForm {
   void Show() { SetShown(true); }
 
   void QueryClose() override;
+  void EndProgram() override;
 
  protected:
   // `prompt` outlives the dialog.
@@ -22,7 +23,6 @@ class DialogForm : public PictureForm {
   // Adds the buttons and the bevel, lays out the title label and makes the dialog known.
   void Finish();
 
-  void ButtonCommand(int index) override;
   virtual void Ok() = 0;
   // The close button: hides the dialog and shows the start-up form.
   virtual void CloseWindow();

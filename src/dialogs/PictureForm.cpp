@@ -1,6 +1,7 @@
 #include "dialogs/PictureForm.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "base/Settings.h"
@@ -13,17 +14,40 @@ namespace quendle {
 namespace {
 
 constexpr int kArrowScroll = 20;
+constexpr Rect kTitleButtonSize{0, 0, 28, 28};
 
 }  // namespace
 
-PictureForm::PictureForm(FormServices services, std::string name, Size size, int last)
-    : services_(services), last_(last) {
+PictureForm::PictureForm(FormServices services, std::string name, Size size) : services_(services) {
   form_.name = std::move(name);
   form_.size = size;
 }
 
 PictureForm::~PictureForm() {
   if (registered_) services_.host.Remove(form_);
+}
+
+void PictureForm::AddButtons(const std::vector<FormButton>& buttons) {
+  for (const FormButton& button : buttons) {
+    AddPicturePair(form_, button.index, button.art, button.word, button.area);
+    buttons_.insert(std::ranges::upper_bound(buttons_, button.index, {}, &FormButton::index),
+                    button);
+  }
+}
+
+void PictureForm::AddTitleButtons(int minimise, std::function<void()> close) {
+  AddButtons({
+      {minimise, "minimise", "Minimise", kTitleButtonSize, [this] { Minimise(); }},
+      {minimise + 2, "maximise", "Maximise", kTitleButtonSize, [this] { services_.system.Beep(); }},
+      {minimise + 4, "close", "Close", kTitleButtonSize, std::move(close)},
+  });
+}
+
+int PictureForm::LastPicture() const { return buttons_.empty() ? 0 : buttons_.back().index + 1; }
+
+void PictureForm::ButtonCommand(int index) {
+  const auto behind = std::ranges::upper_bound(buttons_, index, {}, &FormButton::index);
+  if (behind != buttons_.begin()) std::prev(behind)->action();
 }
 
 void PictureForm::Register() {
@@ -106,7 +130,7 @@ void PictureForm::Key(FormKey key) {
 
 void PictureForm::HighlightButton(int index) {
   if (index != 0 && index % 2 == 0) return;
-  if (!ShowHighlight(form_, index, last_)) return;
+  if (!ShowHighlight(form_, index, LastPicture())) return;
   FollowVisiblePicture(form_);
   Changed();
 }

@@ -1,14 +1,25 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "dialogs/FormServices.h"
 #include "platform/Form.h"
 
 namespace quendle {
 
+// A button: a pair of elements of Picture1, the odd `index` at rest and the next one highlighted.
+struct FormButton {
+  int index;
+  std::string art;   // names the picture
+  std::string word;  // tells what the button does
+  Rect area;         // at rest; pixels of the form
+  std::function<void()> action;
+};
+
 // A form of the shared look: bevel, picture buttons with highlights, links, radio groups, checks,
-// and the keyboard. What its buttons do is told by the classes below it.
+// and the keyboard. The classes below it give the buttons, each with what it does.
 //
 // Keys: Tab walks the controls, arrows move inside a radio group and walk elsewhere, Space presses
 // what has the focus, Enter presses a button or link that has the focus and else the default
@@ -32,8 +43,16 @@ class PictureForm : public FormEvents {
   void Key(FormKey key) override;
 
  protected:
-  // An empty form, not yet known to the host. `last` is its last element of Picture1.
-  PictureForm(FormServices services, std::string name, Size size, int last);
+  // An empty form, not yet known to the host.
+  PictureForm(FormServices services, std::string name, Size size);
+
+  // Adds buttons. None may be added once the form is known to the host.
+  void AddButtons(const std::vector<FormButton>& buttons);
+  // Adds the three of the title bar, from element `minimise` on: minimise, maximise, which only
+  // beeps since no form can be maximised, and close.
+  void AddTitleButtons(int minimise, std::function<void()> close);
+  // The last element of Picture1.
+  int LastPicture() const;
 
   // Makes the finished form known to the host.
   void Register();
@@ -42,8 +61,9 @@ class PictureForm : public FormEvents {
   // to a picture that is highlighted already and is ignored.
   void HighlightButton(int index);
 
-  // What a press on an element of Picture1 does.
-  virtual void ButtonCommand(int index) = 0;
+  // What a press on an element of Picture1 does: the action of the last button that doesn't lie
+  // behind `index`, so that an even element acts like its odd partner. Below the first, nothing.
+  void ButtonCommand(int index);
 
   // The element that Enter presses when nothing else has the focus.
   virtual int DefaultButton() const { return 1; }
@@ -64,7 +84,7 @@ class PictureForm : public FormEvents {
   void PressFocused();
   void PressEnter();
 
-  int last_;
+  std::vector<FormButton> buttons_;  // by index
   bool registered_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "dialogs/frmDifficultyMenu.h"
 
 #include "base/ContentFiles.h"
+#include "base/PlayerFiles.h"
 #include "base/Settings.h"
 #include "dialogs/DifficultyRadios.h"
 #include "dialogs/FormLayout.h"
@@ -28,7 +29,7 @@ void frmDifficultyMenu::SyncControls() {
 void frmDifficultyMenu::Ok() {
   services_.settings.DifficultyLevel = ChosenDifficulty(form_);
   const ContentFiles& files = services_.files;
-  files.WriteOneLine(files.BaseDirectory() + "\\DialogMode.txt", "On");
+  files.WriteOneLine(PlayerPath(files, kDialogModeFile), "On");
   SetShown(false);
   prompt_.btnNormal_Click();
 }

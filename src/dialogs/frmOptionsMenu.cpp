@@ -1,6 +1,7 @@
 #include "dialogs/frmOptionsMenu.h"
 
 #include "base/ContentFiles.h"
+#include "base/PlayerFiles.h"
 #include "base/Settings.h"
 #include "dialogs/DifficultyRadios.h"
 #include "dialogs/FormLayout.h"
@@ -54,14 +55,7 @@ void frmOptionsMenu::SaveOptions() {
   settings.GraphicsMode = IsSet(form_, "opt16Bit") ? 16 : 32;
   settings.PersonalizeOn = IsSet(form_, "optOn");
   settings.DifficultyLevel = ChosenDifficulty(form_);
-  if (IsSet(form_, "chkResetGame")) ResetGame();
-}
-
-// The autosave goes too, or the next start after a crash would bring the old game back.
-void frmOptionsMenu::ResetGame() {
-  const ContentFiles& files = services_.files;
-  files.DeleteFileIfPresent(files.BaseDirectory() + "\\userdata.txt");
-  files.DeleteFileIfPresent(files.BaseDirectory() + "\\autosave.txt");
+  if (IsSet(form_, "chkResetGame")) DeleteSavedGame(services_.files);
 }
 
 }  // namespace quendle

@@ -17,7 +17,6 @@ class frmOptionsMenu : public DialogForm {
 
  private:
   void SaveOptions();
-  void ResetGame();
 };
 
 }  // namespace quendle

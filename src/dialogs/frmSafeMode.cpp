@@ -1,6 +1,7 @@
 #include "dialogs/frmSafeMode.h"
 
 #include "base/ContentFiles.h"
+#include "base/PlayerFiles.h"
 #include "base/Settings.h"
 #include "dialogs/FormLayout.h"
 
@@ -26,7 +27,7 @@ void frmSafeMode::Ok() {
   if (IsSet(form_, "optSafe")) {
     services_.settings.SafeMode = true;
     const ContentFiles& files = services_.files;
-    files.WriteOneLine(files.BaseDirectory() + "\\GameMode.txt", "Safe");
+    files.WriteOneLine(PlayerPath(files, kGameModeFile), "Safe");
   }
   BackToPrompt();
 }

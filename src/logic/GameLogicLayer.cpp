@@ -4,8 +4,10 @@
 
 #include "base/ContentFiles.h"
 #include "base/Numbers.h"
+#include "base/PlayerFiles.h"
 #include "base/Settings.h"
 #include "base/Watch.h"
+#include "logic/GameVerbs.h"
 #include "logic/InputRecorder.h"
 #include "media/DShowObj.h"
 #include "media/Graphics.h"
@@ -13,16 +15,14 @@
 #include "media/SoundState.h"
 #include "platform/Ports.h"
 #include "platform/TimerService.h"
+#include "screens/ScreenNames.h"
 #include "script/ScriptWorld.h"
 
 namespace quendle {
 namespace {
 
-constexpr const char* kAutosave = "autosave.txt";
-constexpr const char* kSavedGame = "userdata.txt";
 constexpr int kAutosaveDraws = 1200;  // once a minute
 constexpr std::int32_t kMusicVolume = -400;
-constexpr int kWarningLevel = 10;
 // Deeper than a message of its own, an event comes from content.
 constexpr int kDeepestInput = 1;
 
@@ -42,7 +42,7 @@ GameLogicLayer::GameLogicLayer(ObjectWorld& world, GameHost& host) : world_(worl
 
 GameLogicLayer::~GameLogicLayer() {
   KillDrawTimer();
-  DropBackBuffer();
+  back_buffer_.reset();
 }
 
 void GameLogicLayer::Initialize(ContextHandle window_context, const std::string& saved_game) {
@@ -53,27 +53,27 @@ void GameLogicLayer::Initialize(ContextHandle window_context, const std::string&
   m_ptrScreenKeeper->SpareWhile([this](const GameObjectInterface& screen) {
     return &screen == m_ptrCurrentScreen.get() || &screen == m_ptrPreviousScreen.get();
   });
-  MakeBackBuffer(window_context);
+  back_buffer_.emplace(world_.media.ports.gdi, window_context, Size{kFrameWidth, kFrameHeight});
   ReadHelpMemory();
   m_ptrScreenKeeper->LoadGame(saved_game);
 }
 
 void GameLogicLayer::TurnOn() {
-  m_ptrCurrentScreen = RequireScreen("introscreen");
+  m_ptrCurrentScreen = RequireScreen(std::string(kFirstScreenName));
   StartMusic();
   ObjectRef(m_ptrCurrentScreen)->TurnOn();
-  m_ptrToolsScreen = RequireScreen("tools");
+  m_ptrToolsScreen = RequireScreen(std::string(kToolsScreenName));
   ObjectRef(m_ptrToolsScreen)->TurnOn();
   m_strToolsState = "off";
-  m_strCurrentCursor = "hand";
-  m_ptrCursorsScreen = RequireScreen("cursors");
+  m_strCurrentCursor = kBareHand;
+  m_ptrCursorsScreen = RequireScreen(std::string(kCursorsScreenName));
   ObjectRef(m_ptrCursorsScreen)->TurnOn();
   m_ptrPersonCursor = nullptr;
   if (world_.media.settings.PersonalizeOn) {
     m_ptrPersonCursor = world_.FindGlobalObject("personcursor");
     m_ptrCursorsScreen->AddChildObject(m_ptrPersonCursor);
   }
-  m_ptrCursorObject = world_.FindGlobalObject("handcursor");
+  m_ptrCursorObject = world_.FindGlobalObject(PointerNameOf(kBareHand));
   m_ptrCursorsScreen->AddChildObject(m_ptrCursorObject);
   ObjectWorld& world = world_;
   m_nDrawTimer = world_.media.ports.timers.SetTimer(Milliseconds(kDrawInterval), "OnLogicTimer",
@@ -110,10 +110,15 @@ void GameLogicLayer::TurnOff() {
   host_.ShowPointer(true);
   // A start that was broken off has nothing to save, and must not overwrite what is there.
   if (m_ptrScreenKeeper == nullptr) return;
-  if (!m_bGameReset) m_ptrScreenKeeper->SaveGame(kSavedGame);
+  // An autosave that is there wins over the saved game, so it must not be the older one: stopped
+  // between any two of these steps, the next start has all that was played.
+  if (!m_bGameReset) {
+    Autosave();
+    m_ptrScreenKeeper->SaveGame(kSavedGameFile);
+  }
   WriteHelpMemory();
   const ContentFiles& files = world_.media.content;
-  files.DeleteFileIfPresent(files.BaseDirectory() + "\\" + kAutosave);
+  files.TryDelete(PlayerPath(files, kAutosaveFile));
 }
 
 void GameLogicLayer::Release() {
@@ -129,7 +134,7 @@ void GameLogicLayer::Release() {
   world_.TimedObjects.Clear();
   m_ptrScreenKeeper.reset();
   KillDrawTimer();
-  DropBackBuffer();
+  back_buffer_.reset();
   m_ptrMusic.reset();
   walk_ = nullptr;
   if (std::shared_ptr<InputRecorder> tester = m_ptrTester.lock()) tester->Detach();
@@ -140,18 +145,6 @@ void GameLogicLayer::KillDrawTimer() {
   if (m_nDrawTimer == 0) return;
   world_.media.ports.timers.KillTimer(m_nDrawTimer);
   m_nDrawTimer = 0;
-}
-
-void GameLogicLayer::MakeBackBuffer(ContextHandle window_context) {
-  Gdi& gdi = world_.media.ports.gdi;
-  back_context_ = gdi.CreateCompatibleDC(window_context);
-  back_bitmap_ = gdi.CreateCompatibleBitmap(window_context, kFrameWidth, kFrameHeight);
-  gdi.SelectObject(back_context_, back_bitmap_);
-}
-
-void GameLogicLayer::DropBackBuffer() {
-  if (back_context_ != 0) world_.media.ports.gdi.DeleteDC(std::exchange(back_context_, 0));
-  if (back_bitmap_ != 0) world_.media.ports.gdi.DeleteObject(std::exchange(back_bitmap_, 0));
 }
 
 // A recorded event of content would come twice when the record is played.
@@ -214,7 +207,7 @@ void GameLogicLayer::draw() {
   if (world_.media.UseDirectX) {
     PresentDirectX(world_.media);
   } else {
-    PresentWindow(world_.media, back_context_);
+    PresentWindow(world_.media, BackContext());
   }
 }
 
@@ -236,7 +229,7 @@ void GameLogicLayer::Compose() {
     if (world_.media.UseDirectX) {
       layer->RefreshDirectX(*world_.media.off_screen_surface, 0, 0);
     } else {
-      layer->Refresh(back_context_, 0, 0);
+      layer->Refresh(BackContext(), 0, 0);
     }
   }
 }
@@ -260,9 +253,7 @@ void GameLogicLayer::PlaySound() {
 bool GameLogicLayer::Autosave() {
   draws_since_autosave_ = 0;
   if (m_bGameReset || m_ptrScreenKeeper == nullptr) return false;
-  if (m_ptrScreenKeeper->WriteSnapshot(kAutosave)) return true;
-  world_.LogGeneral("The autosave could not be written", kWarningLevel);
-  return false;
+  return m_ptrScreenKeeper->WriteSnapshot(kAutosaveFile);
 }
 
 }  // namespace quendle

@@ -10,6 +10,7 @@
 
 #include "base/Words.h"
 #include "logic/GameHost.h"
+#include "media/MemoryBitmap.h"
 #include "object/ObjectWorld.h"
 #include "screens/ScreenKeeper.h"
 
@@ -19,6 +20,8 @@ class ActionText;
 class InputRecorder;
 class SoundState;
 struct ScreenWalk;
+enum class GameVerb;
+enum class HelpPlace;
 
 // Which one-time help has been given; the order is that of "HelpSys.txt".
 struct HelpMemory {
@@ -27,6 +30,9 @@ struct HelpMemory {
   bool m_bHelpToolRoom = false;
   bool m_bHelpElevator = false;
   bool m_bHelpToolItem = false;
+
+  // That of a screen.
+  bool& GivenAt(HelpPlace place);
 };
 
 // The root of the running game: three live screens, the pointer, the music, the help memory, and
@@ -99,41 +105,44 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   const SoundState* Music() const { return m_ptrMusic.get(); }
   ScreenKeeper* Keeper() const { return m_ptrScreenKeeper.get(); }
   // The window path's back buffer; 0 before Initialize.
-  ContextHandle BackContext() const { return back_context_; }
+  ContextHandle BackContext() const { return back_buffer_ ? back_buffer_->Context() : 0; }
 
  private:
   struct Call;
-  struct Row;
-  static const std::vector<Row>& MessageTable();
-  bool VerifyRow(const Row& row, const Call& call) const;
+  void CarryOut(GameVerb verb, Call& call);
+  // What a verifying call gets; some verbs act all the same.
+  void Answer(GameVerb verb, Call& call);
 
   void CursorChange(Call& call);
   void ToolAnswer(Call& call);
   void PassToScreen(Call& call);
-  void BackFromSubgame(Call& call);
+  void BackFromSubgame();
   void SubgameEvent(Call& call);
-  void ResetAllTools(Call& call);
-  void ResetTools(Call& call);
-  void BuyNow(Call& call);
-  void BackOneScreen(Call& call);
+  void ResetAllTools();
+  void ResetTools();
+  void BuyNow();
+  void BackOneScreen();
   void ChangeScreen(Call& call);
   void RemoveCurrentTool(Call& call);
   void ToCurrentScreen(Call& call);
   void MouseClickMessage(Call& call);
   void MouseMoveMessage(Call& call);
   void HideObject(Call& call);
-  void PlayMusic(Call& call);
-  void StopMusic(Call& call);
-  void ResetGame(Call& call);
-  void ExitOnDemand(Call& call);
-  void EndExitOnDemand(Call& call);
-  void ExitGame(Call& call);
+  void PlayMusic();
+  void StopMusic();
+  void ResetGame();
+  void ExitOnDemand();
+  void EndExitOnDemand();
+  void ExitGame();
 
   void TellTester(const char* action, std::int16_t x, std::int16_t y);
   ObjectRef RequireScreen(const std::string& name);
   void SendToCurrent(const std::string& message);
   void SendToTools(const std::string& message);
-  void EndSubgame(const char* patient_message);
+  void SendToCursors(const std::string& message);
+  void GiveTool(const std::string& name);
+  // The patients get the action.
+  void EndSubgame(const std::string& action);
   void EnterScreen(const std::string& name);
   void GiveOneTimeHelp(const std::string& name);
   // A click begins at that point; nothing for its end, and whether the screen was spared it.
@@ -143,8 +152,6 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void CountDraw();
   void ReadHelpMemory();
   void WriteHelpMemory() const;
-  void MakeBackBuffer(ContextHandle window_context);
-  void DropBackBuffer();
   void KillDrawTimer();
   void TakeWalkStep(const std::function<void(ScreenWalk&)>& step);
   void VisitScreen(const ScreenWalk& walk);
@@ -156,8 +163,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
 
   // Valid from Initialize to Release.
   std::unique_ptr<ScreenKeeper> m_ptrScreenKeeper;
-  ContextHandle back_context_ = 0;
-  int back_bitmap_ = 0;
+  std::optional<MemoryBitmap> back_buffer_;
 
   // Change in play.
   ObjectRef m_ptrToolsScreen;
@@ -177,6 +183,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   bool m_bDialogActive = false;
   bool m_bSkipNextClick = false;
   HelpMemory help_;
+  bool help_is_open_ = false;  // it couldn't be read: what stands there isn't overwritten
   std::weak_ptr<InputRecorder> m_ptrTester;
   bool music_paused_ = false;  // by a loss of focus, while it played
   double music_position_ = 0;  // seconds, where it was paused

@@ -1,15 +1,17 @@
-// The messages that no object takes: the rules of the game. The order of the rows, and whether a
-// row compares the verb or looks for its word anywhere in the message, is part of the format.
+// The messages that no object takes: the rules of the game. GameVerbOf decides, here it is done.
 
 #include <utility>
 
 #include "base/ContentFiles.h"
 #include "base/Numbers.h"
+#include "base/PlayerFiles.h"
 #include "base/ProcessEnds.h"
 #include "base/SF_Strings.h"
 #include "base/Settings.h"
 #include "base/Watch.h"
 #include "logic/GameLogicLayer.h"
+#include "logic/GameVerbs.h"
+#include "logic/ScreenMeaning.h"
 #include "media/MediaWorld.h"
 #include "media/SoundState.h"
 
@@ -23,51 +25,6 @@ struct GameLogicLayer::Call {
   bool& result;
 };
 
-struct GameLogicLayer::Row {
-  enum class Test { kVerb, kAnywhere };
-  // What a verifying call gets: a fixed true, an answer about word 2, or the row itself.
-  enum class Verify { kTrue, kCursor, kScreen, kActs };
-  Test test;
-  std::string_view word;
-  void (GameLogicLayer::*handle)(Call&);
-  Verify verify;
-
-  bool Takes(const Call& call) const {
-    return test == Test::kVerb ? EqualsNoCase(call.words[1], word)
-                               : ContainsNoCase(call.message, word);
-  }
-};
-
-const std::vector<GameLogicLayer::Row>& GameLogicLayer::MessageTable() {
-  using enum Row::Test;
-  using enum Row::Verify;
-  using Layer = GameLogicLayer;
-  static const std::vector<Row> kRows = {
-      {kVerb, "cursor", &Layer::CursorChange, kCursor},
-      {kVerb, "tool", &Layer::ToolAnswer, kTrue},
-      {kVerb, "toscreen", &Layer::PassToScreen, kScreen},
-      {kAnywhere, "subgamedone", &Layer::BackFromSubgame, kActs},
-      {kVerb, "subgame", &Layer::SubgameEvent, kScreen},
-      {kAnywhere, "resetalltools", &Layer::ResetAllTools, kTrue},
-      {kAnywhere, "resettools", &Layer::ResetTools, kTrue},
-      {kAnywhere, "buynow", &Layer::BuyNow, kTrue},
-      {kAnywhere, "screenprevious", &Layer::BackOneScreen, kTrue},
-      {kVerb, "cs", &Layer::ChangeScreen, kScreen},
-      {kVerb, "removeobj", &Layer::RemoveCurrentTool, kTrue},
-      {kVerb, "toobj", &Layer::ToCurrentScreen, kActs},
-      {kVerb, "mouseclick", &Layer::MouseClickMessage, kActs},
-      {kVerb, "mousemove", &Layer::MouseMoveMessage, kActs},
-      {kVerb, "hideobj", &Layer::HideObject, kActs},
-      {kVerb, "playmusic", &Layer::PlayMusic, kTrue},
-      {kVerb, "stopmusic", &Layer::StopMusic, kTrue},
-      {kVerb, "resetgame", &Layer::ResetGame, kTrue},
-      {kVerb, "exitondemand", &Layer::ExitOnDemand, kTrue},
-      {kVerb, "endexitondemand", &Layer::EndExitOnDemand, kTrue},
-      {kVerb, "exitgame", &Layer::ExitGame, kTrue},
-  };
-  return kRows;
-}
-
 void GameLogicLayer::HandleMessage(const std::string& message, GameObjectInterface* sender,
                                    bool verifying, bool& result) {
   DepthGuard guard(world_.watch.depth, Work::kMessage, message);
@@ -77,29 +34,97 @@ void GameLogicLayer::HandleMessage(const std::string& message, GameObjectInterfa
   }
   const Words words(message, '_');
   Call call{message, words, sender, verifying, result};
-  for (const Row& row : MessageTable()) {
-    if (!row.Takes(call)) continue;
-    if (verifying && row.verify != Row::Verify::kActs) {
-      result = VerifyRow(row, call);
-    } else {
-      (this->*row.handle)(call);
-    }
-    return;
+  const GameVerb verb = GameVerbOf(message, words[1]);
+  if (verifying) {
+    Answer(verb, call);
+  } else {
+    CarryOut(verb, call);
   }
-  if (verifying) result = false;
 }
 
-bool GameLogicLayer::VerifyRow(const Row& row, const Call& call) const {
-  switch (row.verify) {
-    case Row::Verify::kCursor:
-      return world_.FindGlobalObject(call.words[2] + "cursor") != nullptr;
-    case Row::Verify::kScreen:
-      return m_ptrScreenKeeper->DoesScreenExist(call.words[2]);
-    case Row::Verify::kTrue:
-    case Row::Verify::kActs:
-      return true;
+void GameLogicLayer::Answer(GameVerb verb, Call& call) {
+  switch (verb) {
+    case GameVerb::kCursor:
+      call.result = world_.FindGlobalObject(PointerNameOf(call.words[2])) != nullptr;
+      return;
+    case GameVerb::kToScreen:
+    case GameVerb::kSubgame:
+    case GameVerb::kChangeScreen:
+      call.result = m_ptrScreenKeeper->DoesScreenExist(call.words[2]);
+      return;
+    case GameVerb::kSubgameDone:
+    case GameVerb::kToObj:
+    case GameVerb::kMouseClick:
+    case GameVerb::kMouseMove:
+    case GameVerb::kHideObj:
+      CarryOut(verb, call);
+      return;
+    case GameVerb::kTool:
+    case GameVerb::kResetAllTools:
+    case GameVerb::kResetTools:
+    case GameVerb::kBuyNow:
+    case GameVerb::kScreenPrevious:
+    case GameVerb::kRemoveObj:
+    case GameVerb::kPlayMusic:
+    case GameVerb::kStopMusic:
+    case GameVerb::kResetGame:
+    case GameVerb::kExitOnDemand:
+    case GameVerb::kEndExitOnDemand:
+    case GameVerb::kExitGame:
+      call.result = true;
+      return;
+    case GameVerb::kNone:
+      call.result = false;
   }
-  return true;
+}
+
+void GameLogicLayer::CarryOut(GameVerb verb, Call& call) {
+  switch (verb) {
+    case GameVerb::kCursor:
+      return CursorChange(call);
+    case GameVerb::kTool:
+      return ToolAnswer(call);
+    case GameVerb::kToScreen:
+      return PassToScreen(call);
+    case GameVerb::kSubgameDone:
+      return BackFromSubgame();
+    case GameVerb::kSubgame:
+      return SubgameEvent(call);
+    case GameVerb::kResetAllTools:
+      return ResetAllTools();
+    case GameVerb::kResetTools:
+      return ResetTools();
+    case GameVerb::kBuyNow:
+      return BuyNow();
+    case GameVerb::kScreenPrevious:
+      return BackOneScreen();
+    case GameVerb::kChangeScreen:
+      return ChangeScreen(call);
+    case GameVerb::kRemoveObj:
+      return RemoveCurrentTool(call);
+    case GameVerb::kToObj:
+      return ToCurrentScreen(call);
+    case GameVerb::kMouseClick:
+      return MouseClickMessage(call);
+    case GameVerb::kMouseMove:
+      return MouseMoveMessage(call);
+    case GameVerb::kHideObj:
+      return HideObject(call);
+    case GameVerb::kPlayMusic:
+      return PlayMusic();
+    case GameVerb::kStopMusic:
+      return StopMusic();
+    case GameVerb::kResetGame:
+      return ResetGame();
+    case GameVerb::kExitOnDemand:
+      return ExitOnDemand();
+    case GameVerb::kEndExitOnDemand:
+      return EndExitOnDemand();
+    case GameVerb::kExitGame:
+      return ExitGame();
+    case GameVerb::kNone:
+      return;
+  }
 }
 
 void GameLogicLayer::SendToCurrent(const std::string& message) {
@@ -114,6 +139,12 @@ void GameLogicLayer::SendToTools(const std::string& message) {
   screen->Send(message);
 }
 
+void GameLogicLayer::SendToCursors(const std::string& message) {
+  ObjectRef screen = m_ptrCursorsScreen;
+  if (screen == nullptr) throw FatalError("\"" + message + "\" finds no cursors screen");
+  screen->Send(message);
+}
+
 void GameLogicLayer::CursorChange(Call& call) {
   m_strPreviousCursor = std::exchange(m_strCurrentCursor, call.words[2]);
   if (ObjectRef old = m_ptrCursorObject) {
@@ -122,7 +153,7 @@ void GameLogicLayer::CursorChange(Call& call) {
       ObjectRef(m_ptrCursorsScreen)->RemoveChild(old->ObjectName());
     }
   }
-  m_ptrCursorObject = world_.FindGlobalObject(m_strCurrentCursor + "cursor");
+  m_ptrCursorObject = world_.FindGlobalObject(PointerNameOf(m_strCurrentCursor));
   // Without such an object there is no pointer until the next change.
   if (ObjectRef cursor = m_ptrCursorObject) {
     if (m_ptrCursorsScreen != nullptr) ObjectRef(m_ptrCursorsScreen)->AddChildObject(cursor);
@@ -133,44 +164,46 @@ void GameLogicLayer::CursorChange(Call& call) {
 
 void GameLogicLayer::ToolAnswer(Call& call) {
   const Words& words = call.words;
-  if (words.Count() > 3) return;
-  const std::string& answer = words[2];
-  if (EqualsNoCase(answer, "yes")) {
-    const std::string& name = words[3];
-    SendToCurrent("toobj_" + name + "_runscript_toolwon");
-    if (!help_.m_bHelpToolItem && !EqualsNoCase(name, "medicalbook")) {
-      SendToCurrent("toobj_doctor_runstate_helptoolitem");
-      help_.m_bHelpToolItem = true;
-    }
-  } else if (EqualsNoCase(answer, "alreadyhavetool")) {
-    SendToCurrent("toobj_doctor_runstate_alreadyhaveone");
-  } else if (EqualsNoCase(answer, "toomany")) {
-    SendToCurrent("toobj_doctor_runstate_toomany");
-  } else {
-    SendToTools("Addchild?_" + answer);
+  if (words.Count() > kMostToolWords) return;
+  switch (ToolWordOf(words[2])) {
+    case ToolWord::kYes:
+      return GiveTool(words[3]);
+    case ToolWord::kAlreadyHave:
+      return SendToCurrent(MessageTo(DoctorState::kAlreadyHaveOne));
+    case ToolWord::kTooMany:
+      return SendToCurrent(MessageTo(DoctorState::kTooMany));
+    case ToolWord::kOffer:
+      return SendToTools("Addchild?_" + words[2]);
   }
+}
+
+void GameLogicLayer::GiveTool(const std::string& name) {
+  SendToCurrent(ToolWonMessage(name));
+  if (help_.m_bHelpToolItem || EqualsNoCase(name, "medicalbook")) return;
+  SendToCurrent(MessageTo(DoctorState::kHelpToolItem));
+  help_.m_bHelpToolItem = true;
 }
 
 void GameLogicLayer::PassToScreen(Call& call) {
   const std::string& where = call.words[2];
   const std::string tail = call.words.Tail(3);
-  if (EqualsNoCase(where, "tools")) {
-    SendToTools(tail);
-  } else if (EqualsNoCase(where, "cursors")) {
-    ObjectRef cursors = m_ptrCursorsScreen;
-    if (cursors == nullptr) throw FatalError("\"" + tail + "\" finds no cursors screen");
-    cursors->Send(tail);
-  } else if (EqualsNoCase(where, "currentscreen")) {
-    SendToCurrent(tail);
-  } else {
-    // Held here: a tutorial or subgame that is built for this message has no other owner.
-    ObjectRef screen = RequireScreen(where);
-    screen->Send(tail);
-    m_ptrScreenKeeper->SaveScreen(screen);
+  switch (ScreenWordOf(where)) {
+    case ScreenWord::kTools:
+      return SendToTools(tail);
+    case ScreenWord::kCursors:
+      return SendToCursors(tail);
+    case ScreenWord::kCurrent:
+      return SendToCurrent(tail);
+    case ScreenWord::kNamed: {
+      // Held here: a tutorial or subgame that is built for this message has no other owner.
+      const ObjectRef screen = RequireScreen(where);
+      screen->Send(tail);
+      m_ptrScreenKeeper->SaveScreen(screen);
+    }
   }
 }
 
-void GameLogicLayer::BackFromSubgame(Call&) {
+void GameLogicLayer::BackFromSubgame() {
   if (m_ptrPreviousScreen == nullptr) {
     throw FatalError("\"subgamedone\" finds no previous screen to go back to");
   }
@@ -180,40 +213,41 @@ void GameLogicLayer::BackFromSubgame(Call&) {
 
 void GameLogicLayer::SubgameEvent(Call& call) {
   const std::string& event = call.words[2];
-  if (EqualsNoCase(event, "lost")) {
-    EndSubgame("totype_patient_useraction_gamelost");
-  } else if (EqualsNoCase(event, "won")) {
-    EndSubgame("totype_patient_useraction_gamewon");
-  } else {
-    if (world_.media.settings.PersonalizeOn) Send("toscreen_cursors_hideobj_personcursor");
-    Send("cs_" + event);
+  switch (SubgameWordOf(event)) {
+    case SubgameWord::kLost:
+      return EndSubgame(kGameLostAction);
+    case SubgameWord::kWon:
+      return EndSubgame(kGameWonAction);
+    case SubgameWord::kBegins:
+      if (world_.media.settings.PersonalizeOn) Send("toscreen_cursors_hideobj_personcursor");
+      Send("cs_" + event);
   }
 }
 
-void GameLogicLayer::EndSubgame(const char* patient_message) {
+void GameLogicLayer::EndSubgame(const std::string& action) {
   if (world_.media.settings.PersonalizeOn) Send("toscreen_cursors_showobj_personcursor");
   Send("subgamedone");
-  SendToCurrent(patient_message);
+  SendToCurrent("totype_patient_useraction_" + action);
   // Undoes what the cursor change of "subgamedone" set.
   m_bSkipNextClick = false;
 }
 
-void GameLogicLayer::ResetAllTools(Call&) {
+void GameLogicLayer::ResetAllTools() {
   SendToTools("removeallchildren");
   Send("cursor_hand");
 }
 
-void GameLogicLayer::ResetTools(Call&) {
+void GameLogicLayer::ResetTools() {
   SendToTools("removechildren");
   Send("cursor_hand");
 }
 
-void GameLogicLayer::BuyNow(Call&) {
+void GameLogicLayer::BuyNow() {
   host_.OpenProductPage();
   host_.Deactivate();
 }
 
-void GameLogicLayer::BackOneScreen(Call&) {
+void GameLogicLayer::BackOneScreen() {
   if (ObjectRef current = m_ptrCurrentScreen) {
     current->TurnOff();
     m_ptrScreenKeeper->SaveScreen(current);
@@ -243,7 +277,7 @@ void GameLogicLayer::EnterScreen(const std::string& name) {
   m_ptrCurrentScreen = RequireScreen(name);
   world_.watch.Trace(TraceKind::kScreen, name, "", "enter");
   ObjectRef(m_ptrCurrentScreen)->TurnOn();
-  if (ContainsNoCase(name, "hall") || ContainsNoCase(name, "room")) {
+  if (ShowsToolBar(name)) {
     m_strToolsState = "on";
     if (m_ptrToolsScreen != nullptr) ObjectRef(m_ptrToolsScreen)->TurnOn();
   } else {
@@ -254,34 +288,19 @@ void GameLogicLayer::EnterScreen(const std::string& name) {
 }
 
 void GameLogicLayer::GiveOneTimeHelp(const std::string& name) {
-  auto holds = [&name](std::string_view word) { return ContainsNoCase(name, word); };
-  const bool patient_room =
-      !holds("empty") && !holds("hall") && !holds("elevator") && !holds("screen");
-  const bool tool_room = holds("empty") && !holds("general");
-  struct Help {
-    bool& given;
-    bool applies;
-    const char* message;
-  };
-  for (const Help& help : {
-           Help{help_.m_bHelpMedicalBook, EqualsNoCase(name, "floor1hall1"),
-                "toobj_doctor_runstate_helpmedicalbook"},
-           Help{help_.m_bHelpPatientRoom, patient_room, "toobj_doctor_runstate_helppatientroom"},
-           Help{help_.m_bHelpToolRoom, tool_room, "toobj_doctor_runstate_helptoolroom"},
-           Help{help_.m_bHelpElevator, EqualsNoCase(name, "elevator"),
-                "toobj_doctor_runstate_helpelevator"},
-       }) {
-    if (help.given || !help.applies) continue;
-    SendToCurrent(help.message);
-    help.given = true;
-  }
+  const std::optional<HelpPlace> place = HelpPlaceOf(name);
+  if (!place) return;
+  bool& given = help_.GivenAt(*place);
+  if (given) return;
+  SendToCurrent(MessageTo(HelpAt(*place)));
+  given = true;
 }
 
 void GameLogicLayer::RemoveCurrentTool(Call& call) {
-  if (!ContainsNoCase(call.words[2], "currenttool")) return;
-  if (ObjectRef tools = m_ptrToolsScreen) tools->RemoveChild(m_strCurrentCursor + "tool");
+  if (!NamesCurrentTool(call.words[2])) return;
+  if (ObjectRef tools = m_ptrToolsScreen) tools->RemoveChild(ToolNameOf(m_strCurrentCursor));
   m_strPreviousCursor.clear();
-  m_strCurrentCursor = "hand";
+  m_strCurrentCursor = kBareHand;
   Send("cursor_hand");
 }
 
@@ -312,31 +331,29 @@ void GameLogicLayer::HideObject(Call& call) {
   if (call.verifying) call.result = true;
 }
 
-void GameLogicLayer::PlayMusic(Call&) {
+void GameLogicLayer::PlayMusic() {
   music_paused_ = false;
   if (m_ptrMusic != nullptr) m_ptrMusic->PlaySound();
 }
 
-void GameLogicLayer::StopMusic(Call&) {
+void GameLogicLayer::StopMusic() {
   music_paused_ = false;
   if (m_ptrMusic != nullptr) m_ptrMusic->StopSound();
 }
 
-void GameLogicLayer::ResetGame(Call&) {
-  const ContentFiles& files = world_.media.content;
-  files.DeleteFileIfPresent(files.BaseDirectory() + "\\userdata.txt");
-  files.DeleteFileIfPresent(files.BaseDirectory() + "\\autosave.txt");
+void GameLogicLayer::ResetGame() {
+  DeleteSavedGame(world_.media.content);
   m_bGameReset = true;
 }
 
-void GameLogicLayer::ExitOnDemand(Call&) {
+void GameLogicLayer::ExitOnDemand() {
   m_bDialogActive = true;
   if (ObjectRef cursors = m_ptrCursorsScreen) cursors->Send("showtype_dialog");
 }
 
-void GameLogicLayer::EndExitOnDemand(Call&) { m_bDialogActive = false; }
+void GameLogicLayer::EndExitOnDemand() { m_bDialogActive = false; }
 
-void GameLogicLayer::ExitGame(Call&) {
+void GameLogicLayer::ExitGame() {
   if (m_ptrMusic != nullptr) m_ptrMusic->StopSound();
   throw ProcessEnds{true};
 }

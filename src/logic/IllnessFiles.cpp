@@ -41,7 +41,7 @@ void SelectIllnessFiles(const ContentFiles& files, std::int16_t edition,
   const std::string variant = full_illness_scripts ? "NormalMode.txt" : "SafeMode.txt";
   for (std::string_view name : IllnessNames(edition)) {
     const std::string stem = folder + std::string(name);
-    files.CopyFile(stem + variant, stem + ".txt");
+    files.KeepCopy(stem + variant, stem + ".txt");
   }
 }
 

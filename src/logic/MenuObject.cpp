@@ -1,5 +1,6 @@
 #include "logic/MenuObject.h"
 
+#include "logic/MenuVerbs.h"
 #include "object/MessageWork.h"
 
 namespace quendle {
@@ -8,11 +9,13 @@ void MenuObject::AddChildObject(ObjectRef) {}
 
 void MenuObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
                                bool verifying, bool& result) {
-  if (ContainsNoCase(message, "scorevalue")) {
-    const MessageWork work(Inner(), message, sender, verifying);
-    Inner().NotifyChild(message, "scoring");
-  } else {
-    Inner().HandleMessage(message, sender, verifying, result);
+  switch (MenuVerbOf(message)) {
+    case MenuVerb::kScore: {
+      const MessageWork work(Inner(), message, sender, verifying);
+      return Inner().NotifyChild(message, "scoring");
+    }
+    case MenuVerb::kInner:
+      return Inner().HandleMessage(message, sender, verifying, result);
   }
 }
 

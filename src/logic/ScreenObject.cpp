@@ -2,7 +2,9 @@
 
 #include "base/Numbers.h"
 #include "base/Words.h"
+#include "logic/ScreenVerbs.h"
 #include "object/MessageWork.h"
+#include "screens/ScreenNames.h"
 
 namespace quendle {
 namespace {
@@ -25,19 +27,12 @@ void Show(GameObjectInterface& child, int x) {
   child.SetVisible(true);
 }
 
-bool HoldsAny(const std::string& message, std::initializer_list<std::string_view> words) {
-  for (std::string_view word : words) {
-    if (ContainsNoCase(message, word)) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 void ScreenObject::LoadObject(const LoadArguments& arguments) {
   // Known only behind the load: nothing is arranged before the bar is turned on.
   ForwardingObject::LoadObject(arguments);
-  m_bIsToolBar = IsNamedTools();
+  m_bIsToolBar = EqualsNoCase(ObjectName(), kToolsScreenName);
 }
 
 void ScreenObject::AddChildObject(ObjectRef child) {
@@ -57,49 +52,42 @@ void ScreenObject::TurnOn() {
 
 void ScreenObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
                                  bool verifying, bool& result) {
-  if (ContainsNoCase(message, "addglobalobj")) {
-    AddGlobalObject(message, sender, verifying, result);
-    return;
-  }
-  const Decision decision = DecisionOn(message);
-  if (decision == Decision::kInner) {
+  const ScreenVerb verb = ScreenVerbOf(message, ObjectName());
+  if (verb == ScreenVerb::kInner) {
     Inner().HandleMessage(message, sender, verifying, result);
     return;
   }
+  if (verb == ScreenVerb::kAddGlobalObj) {
+    AddGlobalObject(message, sender, verifying, result);
+    return;
+  }
   const MessageWork work(Inner(), message, sender, verifying);
-  if (decision == Decision::kPassUp) {
+  if (verb == ScreenVerb::kClimb) {
     Inner().NotifyParent(message, verifying, result);
-  } else if (decision == Decision::kAnswerOffer) {
+  } else if (verb == ScreenVerb::kAnswerOffer) {
     AnswerOffer(message, verifying, result);
   } else if (!verifying) {
-    ChangeBar(decision);
+    ChangeBar(verb);
   }
 }
 
-ScreenObject::Decision ScreenObject::DecisionOn(const std::string& message) const {
-  if (EqualsNoCase(message, "inctoolcounter")) return Decision::kScrollOn;
-  if (EqualsNoCase(message, "dectoolcounter")) return Decision::kScrollBack;
-  // Messages on tools go straight up to the rules of the game.
-  if (ContainsNoCase(message, "tool") && !HoldsAny(message, {"removeobj", "runscript", "toobj"})) {
-    return Decision::kPassUp;
-  }
-  if (ContainsNoCase(message, "subgame")) return Decision::kPassUp;
-  if (!IsNamedTools()) return Decision::kInner;
-  if (ContainsNoCase(message, "removeallchildren")) return Decision::kRemoveAll;
-  if (ContainsNoCase(message, "removechildren")) return Decision::kRemoveMost;
-  if (ContainsNoCase(message, "addchild?")) return Decision::kAnswerOffer;
-  return Decision::kInner;
-}
-
-void ScreenObject::ChangeBar(Decision decision) {
-  if (decision == Decision::kScrollOn || decision == Decision::kScrollBack) {
-    Scroll(decision == Decision::kScrollOn ? 1 : -1);
-  } else {
-    RemoveTools(decision == Decision::kRemoveMost);
+void ScreenObject::ChangeBar(ScreenVerb verb) {
+  switch (verb) {
+    case ScreenVerb::kScrollOn:
+      return Scroll(1);
+    case ScreenVerb::kScrollBack:
+      return Scroll(-1);
+    case ScreenVerb::kRemoveAll:
+      return RemoveTools(false);
+    case ScreenVerb::kRemoveMost:
+      return RemoveTools(true);
+    case ScreenVerb::kInner:
+    case ScreenVerb::kAddGlobalObj:
+    case ScreenVerb::kClimb:
+    case ScreenVerb::kAnswerOffer:
+      return;
   }
 }
-
-bool ScreenObject::IsNamedTools() const { return EqualsNoCase(ObjectName(), "tools"); }
 
 void ScreenObject::AddGlobalObject(const std::string& message, GameObjectInterface* sender,
                                    bool verifying, bool& result) {

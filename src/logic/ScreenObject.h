@@ -7,6 +7,8 @@
 
 namespace quendle {
 
+enum class ScreenVerb;
+
 // A screen or overlay. The one named "tools" is the tool bar: it arranges its children in slots and
 // answers whether a tool can be taken.
 class ScreenObject : public ForwardingObject {
@@ -29,19 +31,7 @@ class ScreenObject : public ForwardingObject {
   std::int16_t ToolOffset() const { return m_nToolOffset; }
 
  private:
-  // What a screen does with a message; kInner leaves it to the inner object.
-  enum class Decision {
-    kInner,
-    kScrollOn,
-    kScrollBack,
-    kPassUp,
-    kRemoveAll,
-    kRemoveMost,  // the medical book stays
-    kAnswerOffer
-  };
-  Decision DecisionOn(const std::string& message) const;
-  void ChangeBar(Decision decision);
-  bool IsNamedTools() const;
+  void ChangeBar(ScreenVerb verb);
   void AddGlobalObject(const std::string& message, GameObjectInterface* sender, bool verifying,
                        bool& result);
   void Scroll(int step);

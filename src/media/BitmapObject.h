@@ -1,19 +1,17 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
-#include "platform/Gdi.h"
+#include "media/MemoryBitmap.h"
 
 namespace quendle {
 
-// A small copy of one frame in memory, for pixel reads. Owns its bitmap and context.
+// A small copy of one frame in memory, for pixel reads.
 class BitmapObject {
  public:
   // `gdi` must outlive the object. Empty, of size 0 by 0, until GenerateBitmap.
   explicit BitmapObject(Gdi& gdi) : gdi_(gdi) {}
-  ~BitmapObject() { Release(); }
-  BitmapObject(const BitmapObject&) = delete;
-  BitmapObject& operator=(const BitmapObject&) = delete;
 
   std::int16_t height() const { return height_; }
   std::int16_t width() const { return width_; }
@@ -30,14 +28,11 @@ class BitmapObject {
   void GenerateBitmap(ContextHandle source, int width, int height, int source_x, int source_y);
 
   // The memory context; 0 before GenerateBitmap. Nothing asks for it: a copy is read, not drawn.
-  ContextHandle GetHandle() const { return context_; }
+  ContextHandle GetHandle() const { return copy_ ? copy_->Context() : 0; }
 
  private:
-  void Release();
-
   Gdi& gdi_;
-  BitmapHandle bitmap_ = 0;
-  ContextHandle context_ = 0;
+  std::optional<MemoryBitmap> copy_;
   std::int16_t width_ = 0;
   std::int16_t height_ = 0;
 };

@@ -9,6 +9,7 @@
 #include "base/ContentFiles.h"
 #include "base/ProcessEnds.h"
 #include "base/Settings.h"
+#include "media/MemoryBitmap.h"
 #include "media/PictureFault.h"
 #include "platform/Boxes.h"
 #include "platform/DisplayModes.h"
@@ -129,11 +130,8 @@ Color ReadKeyColor(MediaWorld& world) {
   const std::string path = world.content.BaseDirectory() + "\\info\\tools\\tool.bmp";
   const BitmapHandle bitmap = gdi.LoadImageA(path);
   if (bitmap == 0) FailOnPicture(world, path);
-  const ContextHandle context = gdi.CreateCompatibleDC(0);
-  gdi.SelectObject(context, bitmap);
-  const Color key = gdi.GetPixel(context, {0, 0});
-  gdi.DeleteObject(bitmap);
-  gdi.DeleteDC(context);
+  const MemoryBitmap picture(gdi, 0, bitmap);
+  const Color key = gdi.GetPixel(picture.Context(), {0, 0});
   if (key == kInvalidColor) FailOnPicture(world, path);
   return key;
 }

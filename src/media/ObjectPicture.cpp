@@ -53,7 +53,7 @@ void ObjectPicture::LoadSurfacePicture(bool restore) {
   if (!HasName()) return;
   for (int i = 0; i < kTries; ++i) {
     const bool loaded = TryLoadSurface(restore && i == 0);
-    DeleteBitmap();
+    loaded_.reset();
     if (loaded) return;
     // What replaces a surface that can't be restored has no key: nobody else gets it.
     world_.shown_pictures.erase(FoldCase(name_));
@@ -62,7 +62,7 @@ void ObjectPicture::LoadSurfacePicture(bool restore) {
 }
 
 void ObjectPicture::Release() {
-  DeleteBitmap();
+  loaded_.reset();
   surface_.reset();
   owns_surface_ = false;
 }
@@ -70,23 +70,23 @@ void ObjectPicture::Release() {
 bool ObjectPicture::HasName() const { return !name_.empty() && !IsNothing(name_); }
 
 bool ObjectPicture::Exists() const {
-  return world_.UseDirectX ? surface_ != nullptr : context_ != 0;
+  return world_.UseDirectX ? surface_ != nullptr : PictureHandle() != 0;
 }
 
 Color ObjectPicture::PixelAt(int x, int y) const {
-  return world_.ports.gdi.GetPixel(context_, {x, y});
+  return world_.ports.gdi.GetPixel(PictureHandle(), {x, y});
 }
 
 std::unique_ptr<BitmapObject> ObjectPicture::CopyRectangle(int x, int y, int width,
                                                            int height) const {
   auto copy = std::make_unique<BitmapObject>(world_.ports.gdi);
-  copy->GenerateBitmap(context_, width, height, x, y);
+  copy->GenerateBitmap(PictureHandle(), width, height, x, y);
   return copy;
 }
 
 bool ObjectPicture::DrawFrameWindow(ContextHandle destination, const PlacedFrame& frame) const {
   return world_.ports.gdi.TransparentBlt(destination, {frame.left, frame.top},
-                                         {frame.width, frame.height}, context_,
+                                         {frame.width, frame.height}, PictureHandle(),
                                          {frame.source_x, frame.source_y}, world_.TransparentColor);
 }
 
@@ -111,10 +111,8 @@ std::string ObjectPicture::FullPath() const { return world_.content.BaseDirector
 
 void ObjectPicture::LoadContextPicture() {
   Gdi& gdi = world_.ports.gdi;
-  bitmap_ = gdi.LoadImageA(FullPath());
-  context_ = gdi.CreateCompatibleDC(drawing_surface_);
-  gdi.SelectObject(context_, bitmap_);
-  if (bitmap_ == 0 && world_.log != nullptr) {
+  loaded_.emplace(gdi, drawing_surface_, gdi.LoadImageA(FullPath()));
+  if (loaded_->Bitmap() == 0 && world_.log != nullptr) {
     const std::string file = world_.content.DisplayName(FullPath());
     world_.log->LogEvent("Picture " + file + " draws nothing: " + gdi.WhyNotLoaded(), kLogLevel,
                          "general");
@@ -122,13 +120,12 @@ void ObjectPicture::LoadContextPicture() {
 }
 
 bool ObjectPicture::TryLoadSurface(bool restore) {
-  DeleteBitmap();
+  loaded_.reset();
   Gdi& gdi = world_.ports.gdi;
-  bitmap_ = gdi.LoadImageA(FullPath());
-  if (bitmap_ == 0) return false;
-  context_ = gdi.CreateCompatibleDC(drawing_surface_);
-  gdi.SelectObject(context_, bitmap_);
-  const Size size = gdi.GetObjectA(bitmap_);
+  const BitmapHandle bitmap = gdi.LoadImageA(FullPath());
+  if (bitmap == 0) return false;
+  loaded_.emplace(gdi, drawing_surface_, bitmap);
+  const Size size = gdi.GetObjectA(bitmap);
   if (restore) {
     if (surface_ == nullptr || surface_->Restore() != DrawStatus::kOk) return false;
   } else {
@@ -143,17 +140,9 @@ bool ObjectPicture::CopyBitmapToSurface(Size size) {
   const ContextHandle target = surface_->GetDC();
   if (target == 0) return false;
   const bool copied =
-      world_.ports.gdi.BitBlt(target, {0, 0}, size, context_, {0, 0}, RasterOp::kCopy);
+      world_.ports.gdi.BitBlt(target, {0, 0}, size, PictureHandle(), {0, 0}, RasterOp::kCopy);
   const bool released = surface_->ReleaseDC(target) == DrawStatus::kOk;
   return copied && released;
-}
-
-void ObjectPicture::DeleteBitmap() {
-  Gdi& gdi = world_.ports.gdi;
-  if (bitmap_ != 0) gdi.DeleteObject(bitmap_);
-  if (context_ != 0) gdi.DeleteDC(context_);
-  bitmap_ = 0;
-  context_ = 0;
 }
 
 }  // namespace quendle

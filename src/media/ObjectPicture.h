@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "media/BitmapObject.h"
 #include "media/MediaWorld.h"
+#include "media/MemoryBitmap.h"
 #include "media/PlacedFrame.h"
 #include "platform/DirectDraw.h"
 #include "platform/Gdi.h"
@@ -44,9 +46,9 @@ class ObjectPicture {
 
   ContextHandle DrawingSurface() const { return drawing_surface_; }
   // The memory context with the picture selected; 0 in the DirectDraw path.
-  ContextHandle PictureHandle() const { return context_; }
+  ContextHandle PictureHandle() const { return loaded_ ? loaded_->Context() : 0; }
   // The loaded bitmap; 0 in the DirectDraw path.
-  BitmapHandle picture() const { return bitmap_; }
+  BitmapHandle picture() const { return loaded_ ? loaded_->Bitmap() : 0; }
   const SurfaceRef& DirectDrawingSurface() const { return surface_; }
 
   // The pixel that hit tests see: kInvalidColor in the DirectDraw path and outside the picture.
@@ -69,13 +71,11 @@ class ObjectPicture {
   bool TryLoadSurface(bool restore);
   bool CopyBitmapToSurface(Size size);
   void RestoreLostSurface();
-  void DeleteBitmap();
 
   MediaWorld& world_;
   ContextHandle drawing_surface_;
   std::string name_;
-  BitmapHandle bitmap_ = 0;
-  ContextHandle context_ = 0;
+  std::optional<MemoryBitmap> loaded_;
   SurfaceRef surface_;
   bool owns_surface_ = false;  // false for a surface of the picture registry
 };

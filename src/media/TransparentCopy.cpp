@@ -1,37 +1,12 @@
 #include "media/Graphics.h"
+#include "media/MemoryBitmap.h"
 
 namespace quendle {
-namespace {
-
-// A bitmap in a context of its own, for the time of one operation.
-class ScratchBitmap {
- public:
-  ScratchBitmap(Gdi& gdi, ContextHandle like, BitmapHandle bitmap)
-      : gdi_(gdi), bitmap_(bitmap), context_(gdi.CreateCompatibleDC(like)) {
-    gdi_.SelectObject(context_, bitmap_);
-  }
-  ~ScratchBitmap() {
-    gdi_.DeleteObject(bitmap_);
-    gdi_.DeleteDC(context_);
-  }
-  ScratchBitmap(const ScratchBitmap&) = delete;
-  ScratchBitmap& operator=(const ScratchBitmap&) = delete;
-  ContextHandle Context() const { return context_; }
-
- private:
-  Gdi& gdi_;
-  BitmapHandle bitmap_;
-  ContextHandle context_;
-};
-
-}  // namespace
-
 void TransparentCopy(Gdi& gdi, ContextHandle destination, ContextHandle source, Point to, Size size,
                      Color key) {
   constexpr Point kOrigin{0, 0};
-  const ScratchBitmap mask(gdi, destination, gdi.CreateMonochromeBitmap(size.width, size.height));
-  const ScratchBitmap work(gdi, destination,
-                           gdi.CreateCompatibleBitmap(destination, size.width, size.height));
+  const MemoryBitmap mask(gdi, destination, gdi.CreateMonochromeBitmap(size.width, size.height));
+  const MemoryBitmap work(gdi, destination, size);
   const auto copy = [&](ContextHandle onto, Point at, ContextHandle from, RasterOp operation) {
     gdi.BitBlt(onto, at, size, from, kOrigin, operation);
   };

@@ -97,6 +97,7 @@ std::string ForwardingObject::PeekCurrentState(std::int16_t x, std::int16_t y,
   return m_ptrGameObject->PeekCurrentState(x, y, action);
 }
 void ForwardingObject::UpdateGameObject(std::int16_t x, std::int16_t y, const ActionText& action) {
+  plain_listener_ = m_ptrGameObject.get();
   m_ptrGameObject->UpdateGameObject(x, y, action);
 }
 void ForwardingObject::LoadObject(const LoadArguments& arguments) {

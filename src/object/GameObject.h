@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@
 #include "object/ObjState.h"
 #include "object/ObjectWorld.h"
 #include "object/Region.h"
+#include "script/Program.h"
 
 namespace quendle {
 
@@ -150,11 +152,30 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   const Region* RegionUnder(int x, int y) const;
   Watch& GetWatch() const { return world_.watch; }
 
+  // True if an event at that point, relative to the parent, surely changes nothing: the object is
+  // hidden, or it lies elsewhere, has no children, and its script is known to carry out nothing for
+  // `elsewhere`, the text of such an event. A text of no table is never known.
+  bool IsDeafTo(int x, int y, const ActionText& elsewhere) const {
+    if (!Visible_) return true;
+    const Heard* heard = FindHeard(elsewhere);
+    return heard != nullptr && heard->first_act == Program::kNoAct && Children_.Empty() &&
+           !InBox(x, y) && !(x == -1 && y == -1);
+  }
+
  private:
-  // One message on its way through the table of verbs.
+  // An action text, and where the current script begins to act on it. At most events an object
+  // gets the same text as before, usually that the pointer is somewhere else.
+  struct Heard {
+    const ActionText* action = nullptr;
+    std::uint32_t first_act = Program::kNoAct;
+  };
+  const Heard* FindHeard(const ActionText& action) const {
+    if (heard_[0].action == &action) return &heard_[0];
+    return heard_[1].action == &action ? &heard_[1] : nullptr;
+  }
+
+  // One message that is being carried out.
   struct MessageCall;
-  struct MessageRow;
-  static const std::vector<MessageRow>& MessageTable();
 
   // Loading.
   void LoadObjectData(const std::string& data_file, ContextHandle context);
@@ -177,6 +198,8 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   void RunSoundStatement(const std::string& name);
   bool HurtPatientStartsOver();
   void ResetSurgeryMachine();
+  void SetCurrentScript(std::shared_ptr<ScriptState> script);
+  std::uint32_t FirstActFor(const ActionText& action);
   void RunStateScript(const ActionText& action);
   void Execute(const ScriptState& script, const ActionText& action);
 
@@ -189,18 +212,24 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   void ShowFirstFrame(const AnimationFrame& frame);
   bool LastSoundIsSilent();
 
-  // Hit test.
+  // Hit test. The box is that of the first frame, its edges belong to it; y = -1 asks about the
+  // horizontal only.
+  bool InBox(int x, int y) const {
+    const int dx = x - xpos_;
+    const int dy = y - ypos_;
+    return y == -1 ? dx >= 0 && dx < width_ : dx >= 0 && dy >= 0 && dx <= width_ && dy <= height_;
+  }
   const AnimationFrame* HitFrame(int x, int y, int& offset_x, int& offset_y) const;
   const std::vector<Region>* RegionsAt(int x, int y, int& offset_x, int& offset_y) const;
   const std::string& GetRegionAtPoint(int x, int y);
 
   // Statements.
   std::string SubstituteTokensOf(const Statement& statement);
-  bool VerifyStatement(StatementVerb verb, const std::string& argument);
+  void CarryOut(StatementVerb verb, const std::string& argument, bool verifying, bool& result);
 
-  // Messages: a row each.
+  // Messages: a verb each.
   void ShowObj(MessageCall& call);
-  void RunScriptRow(MessageCall& call);
+  void RunScriptVerb(MessageCall& call);
   void UserAction(MessageCall& call);
   void HideType(MessageCall& call);
   void HideObj(MessageCall& call);
@@ -208,7 +237,7 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   void ShowType(MessageCall& call);
   void ToType(MessageCall& call);
   void ToObj(MessageCall& call);
-  void RunStateRow(MessageCall& call);
+  void RunStateVerb(MessageCall& call);
   void ChangeState(MessageCall& call);
   void RemoveObj(MessageCall& call);
   void PassUp(MessageCall& call);
@@ -222,6 +251,7 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   // Looked at on every event, and so side by side in memory.
   GameObjectInterface* SelfReference_ = nullptr;  // owns this object, or null before the load
   std::shared_ptr<ScriptState> current_script_;   // of the current state; null for "nothing"
+  std::array<Heard, 2> heard_{};                  // by current_script_, the latest first
   std::unique_ptr<ObjectPicture> picture_;        // constant after the load, until Release
   std::vector<FrameRef> CurrentFrames_;
   std::int16_t xpos_ = 0;

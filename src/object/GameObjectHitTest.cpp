@@ -28,10 +28,8 @@ const Region* LastHolding(const std::vector<Region>& regions, int x, int y) {
 
 bool GameObject::AreWeOnTheObject(std::int16_t x, std::int16_t y) {
   if (picture_ == nullptr || !picture_->Exists()) return false;
-  const int dx = x - xpos_;
-  if (y == -1) return dx >= 0 && dx < width_;
-  const int dy = y - ypos_;
-  if (dx < 0 || dy < 0 || dx > width_ || dy > height_) return false;
+  if (!InBox(x, y)) return false;
+  if (y == -1) return true;
   for (const FrameRef& frame : CurrentFrames_) {
     const int fx = OffsetFrom(xpos_, frame->PlaceX, x);
     const int fy = OffsetFrom(ypos_, frame->PlaceY, y);

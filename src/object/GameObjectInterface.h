@@ -16,6 +16,7 @@ namespace quendle {
 class ActionText;
 class AnimationState;
 class BitmapObject;
+class GameObject;
 class GameObjectMemento;
 class ObjState;
 class SoundState;
@@ -138,6 +139,15 @@ class GameObjectInterface : public MessageTarget, public ScriptTarget, public So
   virtual void LoadMemento(const GameObjectMemento& memento) = 0;
   // Checks what the object's files refer to.
   virtual void Verify() = 0;
+
+  // The inner object, once this one has handed it an event as it came; null until then, and for
+  // ever in a class that does something of its own with events. A walk may ask it whether an event
+  // means nothing to it, and then needn't come here.
+  const GameObject* PlainListener() const { return plain_listener_; }
+
+ protected:
+  GameObjectInterface() = default;
+  const GameObject* plain_listener_ = nullptr;
 };
 
 }  // namespace quendle

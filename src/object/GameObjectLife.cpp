@@ -8,6 +8,8 @@
 #include "media/ObjectPicture.h"
 #include "media/SoundState.h"
 #include "object/GameObject.h"
+#include "object/ObjectFactory.h"
+#include "object/ObjectVerbs.h"
 #include "script/ActionText.h"
 #include "script/ScriptState.h"
 #include "script/ScriptVariables.h"
@@ -15,11 +17,15 @@
 namespace quendle {
 namespace {
 
-// True if `wanted` is `tree` or hangs anywhere below it.
-bool Holds(GameObjectInterface& tree, const GameObjectInterface* wanted) {
+// True if `wanted` is `tree` or hangs anywhere below it. A tree that is too deep is fatal.
+bool Holds(GameObjectInterface& tree, const GameObjectInterface* wanted, WorkDepth& depth,
+           int level) {
   if (&tree == wanted) return true;
+  if (level > kDeepestNesting) throw FatalError(NestedTooDeep(tree.ObjectName()));
+  if (tree.Children().Empty()) return false;
+  const DepthGuard guard(depth, Work::kTreeWalk, tree.ObjectName());
   for (const auto& entry : tree.Children()) {
-    if (Holds(*entry.value, wanted)) return true;
+    if (Holds(*entry.value, wanted, depth, level + 1)) return true;
   }
   return false;
 }
@@ -46,11 +52,18 @@ class BranchTracer : public BranchListener {
   std::string object_;
 };
 
-// A coordinate of the parent as seen by a child.
-inline std::int16_t Relative(int coordinate, int origin) {
-  const int relative = coordinate - origin;
-  const auto narrow = static_cast<std::int16_t>(relative);
-  return narrow == relative ? narrow : ToInt16(relative, "a coordinate relative to an object");
+inline bool FitsInt16(int value) { return value == static_cast<std::int16_t>(value); }
+
+// A coordinate relative to an object, as its children get it.
+inline std::int16_t Relative(int value) {
+  return FitsInt16(value) ? static_cast<std::int16_t>(value)
+                          : ToInt16(value, "a coordinate relative to an object");
+}
+
+// What has no plain listener must be asked itself, and a point too far away is refused there.
+inline bool IsDeaf(const GameObjectInterface& object, int x, int y, const ActionText& elsewhere) {
+  const GameObject* listener = object.PlainListener();
+  return listener != nullptr && FitsInt16(x) && FitsInt16(y) && listener->IsDeafTo(x, y, elsewhere);
 }
 
 }  // namespace
@@ -109,20 +122,46 @@ void GameObject::UpdateGameObject(std::int16_t x, std::int16_t y, const ActionTe
   }
   if (Children_.Empty()) return;
   DepthGuard guard(world_.watch.depth, Work::kTreeWalk, ObjectName_, this);
+  // A tracer wants to hear of each object.
+  const bool may_skip = action.IsInterned() && world_.watch.tracer == nullptr;
+  const ActionText* elsewhere = may_skip ? &action.Not() : nullptr;
   for (std::size_t i = 0; i < Children_.Count(); ++i) {
+    const int child_x = x - xpos_;
+    const int child_y = y - ypos_;
+    if (elsewhere != nullptr && IsDeaf(*Children_.At(i), child_x, child_y, *elsewhere)) continue;
     // A strong copy: what the child does may remove it from here.
     const ObjectRef child = Children_.At(i);
-    if (child->Visible()) {
-      child->UpdateGameObject(Relative(x, xpos_), Relative(y, ypos_), action);
-    }
+    if (child->Visible()) child->UpdateGameObject(Relative(child_x), Relative(child_y), action);
   }
 }
 
+void GameObject::SetCurrentScript(std::shared_ptr<ScriptState> script) {
+  current_script_ = std::move(script);
+  heard_ = {};
+}
+
+std::uint32_t GameObject::FirstActFor(const ActionText& action) {
+  if (const Heard* heard = FindHeard(action)) return heard->first_act;
+  const std::uint32_t first_act = current_script_ == nullptr
+                                      ? Program::kNoAct
+                                      : current_script_->Steps().FirstAct(ScriptVariables(action));
+  heard_[1] = std::exchange(heard_[0], {&action, first_act});
+  return first_act;
+}
+
 void GameObject::RunStateScript(const ActionText& action) {
-  if (current_script_ == nullptr || SelfReference_ == nullptr) return;
+  const bool known = action.IsInterned() && world_.watch.tracer == nullptr;
+  const std::uint32_t first_act = known ? FirstActFor(action) : 0;
+  if (first_act == Program::kNoAct || current_script_ == nullptr || SelfReference_ == nullptr) {
+    return;
+  }
   // A strong copy: the script may release the object that it runs on.
   std::shared_ptr<ScriptState> script = current_script_;
-  Execute(*script, action);
+  if (known) {
+    script->Steps().RunFrom(first_act, ScriptVariables(action), *SelfReference_);
+  } else {
+    Execute(*script, action);
+  }
 }
 
 void GameObject::RunScript(const std::string& name) {
@@ -130,7 +169,7 @@ void GameObject::RunScript(const std::string& name) {
   const auto* found = Scripts_.Find(name);
   if (found == nullptr) return;
   std::shared_ptr<ScriptState> script = *found;
-  Execute(*script, ActionText("nothing"));
+  Execute(*script, ActionText(kRunScriptAction));
 }
 
 void GameObject::Execute(const ScriptState& script, const ActionText& action) {
@@ -150,7 +189,7 @@ void GameObject::AddChildObject(ObjectRef child) {
 }
 
 void GameObject::AttachChild(ObjectRef child) {
-  if (Holds(*child, SelfReference_)) {
+  if (Holds(*child, SelfReference_, world_.watch.depth, 2)) {
     throw FatalError("\"" + child->ObjectName() + "\" can't become a child of \"" + WorkPath() +
                      "\", which it holds");
   }
@@ -183,7 +222,7 @@ void GameObject::Release(bool forced) {
   picture_.reset();
   Parent_.reset();
   m_ptrCurrObjState.reset();
-  current_script_.reset();
+  SetCurrentScript(nullptr);
   Animations_.Clear();
   States_.Clear();
   Sounds_.Clear();

@@ -1,10 +1,11 @@
-// The routing of messages through a GameObject. The order of the rows, and whether a row looks for
-// its word anywhere in the verb or compares the whole, is part of the format.
+// The routing of messages through a GameObject: ObjectVerbOf decides, here it is done.
 
 #include "base/Watch.h"
 #include "base/Words.h"
+#include "object/DoctorStates.h"
 #include "object/GameObject.h"
 #include "object/MessageWork.h"
+#include "object/ObjectVerbs.h"
 #include "script/ScriptWorld.h"
 
 namespace quendle {
@@ -25,53 +26,40 @@ struct GameObject::MessageCall {
   bool& result;
 };
 
-struct GameObject::MessageRow {
-  enum class Test { kContains, kEquals };
-  Test test;
-  std::string_view word;
-  void (GameObject::*handle)(MessageCall&);
-
-  bool Takes(std::string_view verb) const {
-    return test == Test::kContains ? ContainsNoCase(verb, word) : EqualsNoCase(verb, word);
-  }
-};
-
-const std::vector<GameObject::MessageRow>& GameObject::MessageTable() {
-  using enum MessageRow::Test;
-  static const std::vector<MessageRow> kRows = {
-      {kContains, "showobj", &GameObject::ShowObj},
-      {kContains, "runscript", &GameObject::RunScriptRow},
-      {kEquals, "useraction", &GameObject::UserAction},
-      {kContains, "hidetype", &GameObject::HideType},
-      {kContains, "hideobj", &GameObject::HideObj},
-      {kEquals, "addglobalobj", &GameObject::AddGlobalObj},
-      {kContains, "showtype", &GameObject::ShowType},
-      {kContains, "totype", &GameObject::ToType},
-      {kContains, "toobj", &GameObject::ToObj},
-      {kEquals, "toscreen", &GameObject::PassUp},
-      {kEquals, "runstate", &GameObject::RunStateRow},
-      {kEquals, "changestate", &GameObject::ChangeState},
-      {kEquals, "processstate", &GameObject::ChangeState},
-      {kContains, "cs", &GameObject::PassUp},
-      {kContains, "removeobj", &GameObject::RemoveObj},
-  };
-  return kRows;
-}
-
 void GameObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
                                bool verifying, bool& result) {
   const MessageWork work(*this, message, sender, verifying);
   const Words words(message, '_');
   GameObjectInterface* self = SelfReference_ != nullptr ? SelfReference_ : this;
   MessageCall call{message, words, self, verifying, result};
-  const std::string& verb = words[1];
-  for (const MessageRow& row : MessageTable()) {
-    if (row.Takes(verb)) {
-      (this->*row.handle)(call);
-      return;
-    }
+  switch (ObjectVerbOf(words[1])) {
+    case ObjectVerb::kShowObj:
+      return ShowObj(call);
+    case ObjectVerb::kRunScript:
+      return RunScriptVerb(call);
+    case ObjectVerb::kUserAction:
+      return UserAction(call);
+    case ObjectVerb::kHideType:
+      return HideType(call);
+    case ObjectVerb::kHideObj:
+      return HideObj(call);
+    case ObjectVerb::kAddGlobalObj:
+      return AddGlobalObj(call);
+    case ObjectVerb::kShowType:
+      return ShowType(call);
+    case ObjectVerb::kToType:
+      return ToType(call);
+    case ObjectVerb::kToObj:
+      return ToObj(call);
+    case ObjectVerb::kRunState:
+      return RunStateVerb(call);
+    case ObjectVerb::kChangeState:
+      return ChangeState(call);
+    case ObjectVerb::kRemoveObj:
+      return RemoveObj(call);
+    case ObjectVerb::kClimb:
+      return PassUp(call);
   }
-  PassUp(call);
 }
 
 bool GameObject::SetVisibleWhere(Property property, const std::string& value, bool visible,
@@ -109,7 +97,7 @@ void GameObject::ShowObj(MessageCall& call) {
   if (call.verifying && !found) call.result = false;
 }
 
-void GameObject::RunScriptRow(MessageCall& call) {
+void GameObject::RunScriptVerb(MessageCall& call) {
   if (call.verifying) {
     call.result = VerifyScript(call.words[2]);
   } else {
@@ -168,14 +156,14 @@ void GameObject::ToType(MessageCall& call) {
 
 void GameObject::ToObj(MessageCall& call) {
   if (DeliverWhere(&GameObjectInterface::ObjectName, call)) return;
-  if (!EqualsNoCase(call.words[2], "doctor")) return;
+  if (!EqualsNoCase(call.words[2], kDoctorName)) return;
   // The doctor hears from any object that has no child of that name.
-  if (ObjectRef doctor = world_.FindGlobalObject("doctor")) {
+  if (ObjectRef doctor = world_.FindGlobalObject(kDoctorName)) {
     doctor->HandleMessage(call.words.Tail(3), call.self, call.verifying, call.result);
   }
 }
 
-void GameObject::RunStateRow(MessageCall& call) {
+void GameObject::RunStateVerb(MessageCall& call) {
   if (call.verifying) {
     call.result = VerifyState(call.words[2]);
   } else {

@@ -1,4 +1,4 @@
-// The four statements of a script, carried out on a GameObject.
+// The statements of a script, carried out on a GameObject.
 
 #include "base/Watch.h"
 #include "object/GameObject.h"
@@ -22,35 +22,40 @@ void GameObject::Interpret(const Statement& statement, bool verifying, bool& res
     if (verifying) result = false;
     return;
   }
-  const std::string argument = SubstituteTokensOf(statement);
-  if (verb == StatementVerb::kMtp) {
-    if (SelfReference_ != nullptr) SelfReference_->NotifyParent(argument, verifying, result);
-    return;
-  }
-  if (verifying) {
-    result = VerifyStatement(verb, argument);
-    return;
-  }
-  // A released object has nothing left to act on: the rest of its script does nothing.
-  if (SelfReference_ == nullptr) return;
-  switch (verb) {
-    case StatementVerb::kChange:
-      SelfReference_->ProcessState(argument);
-      break;
-    case StatementVerb::kRunSound:
-      RunSoundStatement(argument);
-      break;
-    case StatementVerb::kRunState:
-      RunState(argument);
-      break;
-    case StatementVerb::kMtp:
-    case StatementVerb::kOther:
-      break;
-  }
+  CarryOut(verb, SubstituteTokensOf(statement), verifying, result);
 }
 
-bool GameObject::VerifyStatement(StatementVerb verb, const std::string& argument) {
-  return verb == StatementVerb::kRunSound ? VerifySoundState(argument) : VerifyState(argument);
+// A released object has nothing left to act on: the rest of its script does nothing.
+void GameObject::CarryOut(StatementVerb verb, const std::string& argument, bool verifying,
+                          bool& result) {
+  switch (verb) {
+    case StatementVerb::kMtp:
+      if (SelfReference_ != nullptr) SelfReference_->NotifyParent(argument, verifying, result);
+      return;
+    case StatementVerb::kChange:
+      if (verifying) {
+        result = VerifyState(argument);
+      } else if (SelfReference_ != nullptr) {
+        SelfReference_->ProcessState(argument);
+      }
+      return;
+    case StatementVerb::kRunSound:
+      if (verifying) {
+        result = VerifySoundState(argument);
+      } else if (SelfReference_ != nullptr) {
+        RunSoundStatement(argument);
+      }
+      return;
+    case StatementVerb::kRunState:
+      if (verifying) {
+        result = VerifyState(argument);
+      } else if (SelfReference_ != nullptr) {
+        RunState(argument);
+      }
+      return;
+    case StatementVerb::kOther:
+      return;
+  }
 }
 
 std::string GameObject::SubstituteTokensOf(const Statement& statement) {

@@ -6,8 +6,10 @@
 #include "base/Watch.h"
 #include "media/MediaWorld.h"
 #include "media/SoundState.h"
+#include "object/DoctorStates.h"
 #include "object/GameObject.h"
 #include "object/StatementTokens.h"
+#include "object/SurgeryReset.h"
 #include "script/ScriptState.h"
 
 namespace quendle {
@@ -34,11 +36,11 @@ std::string GameObject::ProcessState(const std::string& name) {
   }
   m_ptrCurrObjState = state;
   const std::string& script = state->ScriptState();
-  current_script_ = EqualsNoCase(script, kNothing) ? nullptr : FindOrNull(Scripts_, script);
+  SetCurrentScript(EqualsNoCase(script, kNothing) ? nullptr : FindOrNull(Scripts_, script));
   if (ObjectOn_) {
     RunSoundOfState(state->SoundState());
     RunAnimation(state->AnimationState());
-  } else if (EqualsNoCase(ObjectName_, "doctor") &&
+  } else if (EqualsNoCase(ObjectName_, kDoctorName) &&
              !ContainsNoCase(state->SoundState(), "subgame")) {
     // The doctor speaks even while its screen is off.
     RunSoundOfState(state->SoundState());
@@ -94,7 +96,7 @@ std::shared_ptr<AnimationFrame> GameObject::QueryFrameState(const std::string& n
 
 void GameObject::RunState(const std::string& name) {
   const std::string current = CurrentState();
-  if (EqualsNoCase(name, current) && !EqualsNoCase(ObjectName_, "doctor")) return;
+  if (EqualsNoCase(name, current) && !EqualsNoCase(ObjectName_, kDoctorName)) return;
   if (StateHistory_.empty()) StateHistory_.push_back(current);
   if (SelfReference_ != nullptr) SelfReference_->ProcessState(name);
 }
@@ -113,23 +115,23 @@ void GameObject::PopStateHistory() {
 bool GameObject::HurtPatientStartsOver() {
   bool unused = false;
   if (EqualsNoCase(world_.media.settings.DifficultyLevel, "Easy")) {
-    NotifyParent("toobj_doctor_runstate_tryagain", false, unused);
+    NotifyParent(MessageTo(DoctorState::kTryAgain), false, unused);
     return false;
   }
   ProcessState("default");
-  NotifyParent("toobj_doctor_runstate_startover", false, unused);
+  NotifyParent(MessageTo(DoctorState::kStartOver), false, unused);
   ResetSurgeryMachine();
   return true;
 }
 
 void GameObject::ResetSurgeryMachine() {
-  const bool sibling = world_.media.settings.GameEdition == 1;
-  if (!EqualsNoCase(ObjectName_, sibling ? "scarecrow" : "kangaroo")) return;
+  const SurgeryReset& reset = SurgeryResetOf(world_.media.settings.GameEdition);
+  if (!EqualsNoCase(ObjectName_, reset.patient)) return;
+  const std::string machine(kSurgeryMachineName);
   bool unused = false;
-  NotifyParent("hideobj_surgerymachine", false, unused);
-  NotifyParent(sibling ? "toobj_surgerymachine_changestate_tonsilsStage1"
-                       : "toobj_surgerymachine_changestate_tumorStage1",
-               false, unused);
+  NotifyParent("hideobj_" + machine, false, unused);
+  NotifyParent("toobj_" + machine + "_changestate_" + std::string(reset.machine_state), false,
+               unused);
 }
 
 std::string GameObject::GetRootState() { return RootStateOf(CurrentState()); }

@@ -4,6 +4,7 @@
 #include "base/Watch.h"
 #include "media/MediaWorld.h"
 #include "media/SoundState.h"
+#include "object/DoctorStates.h"
 #include "object/GameObject.h"
 #include "object/VerifyRules.h"
 #include "script/ScriptState.h"
@@ -33,7 +34,7 @@ void GameObject::Verify() {
 }
 
 void GameObject::VerifyObject() {
-  const bool is_doctor = EqualsNoCase(ObjectName_, "doctor");
+  const bool is_doctor = EqualsNoCase(ObjectName_, kDoctorName);
   for (const auto& entry : States_) {
     VerifySoundState(entry.value->SoundState());
     VerifyAnimationState(entry.value->AnimationState());
@@ -77,7 +78,7 @@ bool GameObject::VerifyState(const std::string& name) {
   if (state == nullptr) return false;
   const bool sound = VerifySoundState(state->SoundState());
   const bool animation = VerifyAnimationState(state->AnimationState());
-  if (EqualsNoCase(ObjectType_, "patient") && !EqualsNoCase(ObjectName_, "doctor")) {
+  if (EqualsNoCase(ObjectType_, "patient") && !EqualsNoCase(ObjectName_, kDoctorName)) {
     VerifyOwwwPair(name);  // made, and without a say in the result
   }
   return sound && animation;

@@ -27,10 +27,18 @@ std::vector<std::string> ObjectFactory::TypeWords() const {
   return words;
 }
 
+std::string NestedTooDeep(std::string_view what) {
+  return "more than " + std::to_string(kDeepestNesting) +
+         " objects inside one another: the content is nested too deep at \"" + std::string(what) +
+         "\"";
+}
+
 ObjectRef CreateGameObject(ObjectWorld& world, const std::string& path, ContextHandle context,
                            std::weak_ptr<MessageTarget> parent) {
-  DepthGuard guard(world.watch.depth, Work::kLoad, path);
   const ContentFiles& files = world.media.content;
+  const std::string name = files.DisplayName(path);
+  const DepthGuard guard(world.watch.depth, Work::kObject, name);
+  guard.KeepWithin(kDeepestNesting, "objects");
   auto stream = files.OpenTextFileChecked(path, OpenMode::kRead, false);
   ObjectFile file = ReadObjectFile(*stream);
   stream->Close();

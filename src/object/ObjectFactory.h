@@ -28,6 +28,12 @@ class ObjectFactory {
   std::map<std::string, Maker> makers_;  // folded words
 };
 
+// Objects inside one another, by their child lists: more are fatal, and told by `quendle verify`.
+// Well below WorkDepth::kLimit, so that a message from the deepest one can climb to the top.
+inline constexpr int kDeepestNesting = 60;
+// What is told of the object or file that stands too deep.
+std::string NestedTooDeep(std::string_view what);
+
 // Reads an object file (full path) and loads the object that it names. A missing file or an
 // unknown type word is fatal.
 ObjectRef CreateGameObject(ObjectWorld& world, const std::string& path, ContextHandle context,

@@ -1,8 +1,8 @@
 #include "object/ObjectFile.h"
 
-#include <array>
 #include <utility>
 
+#include "base/FirstFit.h"
 #include "base/Numbers.h"
 #include "base/PathTokens.h"
 #include "base/SF_Strings.h"
@@ -14,40 +14,55 @@ namespace {
 constexpr std::string_view kRootNameToken = "<RootObjectName>\\";
 constexpr std::string_view kNameToken = "<ObjectName>";
 
-using Setter = void (*)(Directives&, const std::string& value, const FilePlace&);
-
-struct DirectiveKey {
-  std::string_view name;
-  Setter set;
+constexpr FitRow<DirectiveKey> kDirectiveKeys[] = {
+    {Fit::kIs, "visible", DirectiveKey::kVisible}, {Fit::kIs, "depth", DirectiveKey::kDepth},
+    {Fit::kIs, "state", DirectiveKey::kState},     {Fit::kIs, "runstate", DirectiveKey::kRunState},
+    {Fit::kIs, "xpos", DirectiveKey::kXPos},       {Fit::kIs, "ypos", DirectiveKey::kYPos},
 };
 
-void SetVisible(Directives& directives, const std::string& value, const FilePlace&) {
-  directives.visible_given = true;
-  if (EqualsNoCase(value, "on")) directives.visible = true;
-  if (EqualsNoCase(value, "off")) directives.visible = false;
+// Nothing for a word that means neither.
+std::optional<bool> VisibilityOf(std::string_view value) {
+  if (EqualsNoCase(value, "on")) return true;
+  if (EqualsNoCase(value, "off")) return false;
+  return std::nullopt;
 }
 
-constexpr std::array<DirectiveKey, 6> kDirectiveKeys = {{
-    {"visible", SetVisible},
-    {"depth", [](Directives& d, const std::string& v, const FilePlace&) { d.depth = v; }},
-    {"state", [](Directives& d, const std::string& v, const FilePlace&) { d.state = v; }},
-    {"runstate", [](Directives& d, const std::string& v, const FilePlace&) { d.runstate = v; }},
-    {"xpos", [](Directives& d, const std::string& v,
-                const FilePlace& place) { d.xpos = Int16FromText(v, "xpos", place); }},
-    {"ypos", [](Directives& d, const std::string& v,
-                const FilePlace& place) { d.ypos = Int16FromText(v, "ypos", place); }},
-}};
+void SetDirective(Directives& directives, DirectiveKey key, const std::string& value,
+                  const FilePlace& place) {
+  switch (key) {
+    case DirectiveKey::kVisible:
+      directives.visible_given = true;
+      if (const std::optional<bool> visible = VisibilityOf(value)) directives.visible = visible;
+      return;
+    case DirectiveKey::kDepth:
+      directives.depth = value;
+      return;
+    case DirectiveKey::kState:
+      directives.state = value;
+      return;
+    case DirectiveKey::kRunState:
+      directives.runstate = value;
+      return;
+    case DirectiveKey::kXPos:
+      directives.xpos = Int16FromText(value, "xpos", place);
+      return;
+    case DirectiveKey::kYPos:
+      directives.ypos = Int16FromText(value, "ypos", place);
+      return;
+    case DirectiveKey::kNone:
+      return;
+  }
+}
 
 void ApplyWord(Directives& directives, const std::string& word, const FilePlace& place) {
   std::vector<std::string> pieces = SplitTokens(word, '_');
   if (pieces.empty()) throw FatalError("the directive \"" + word + "\" has no key", place);
-  for (const DirectiveKey& key : kDirectiveKeys) {
-    if (!EqualsNoCase(pieces[0], key.name)) continue;
-    if (pieces.size() < 2) {
-      throw FatalError("the directive \"" + word + "\" needs a value behind an underscore", place);
-    }
-    key.set(directives, pieces[1], place);
+  const DirectiveKey key = DirectiveKeyOf(pieces[0]);
+  if (key == DirectiveKey::kNone) return;
+  if (pieces.size() < 2) {
+    throw FatalError("the directive \"" + word + "\" needs a value behind an underscore", place);
   }
+  SetDirective(directives, key, pieces[1], place);
 }
 
 }  // namespace
@@ -97,6 +112,18 @@ std::vector<ChildLine> ReadChildList(TextStream& stream) {
     children.push_back({std::move(words[0]), std::move(line), stream.Place()});
   }
   return children;
+}
+
+DirectiveKey DirectiveKeyOf(std::string_view word) {
+  return FirstFit(kDirectiveKeys, word, DirectiveKey::kNone);
+}
+
+bool SaysSomething(std::string_view directive) {
+  const std::vector<std::string> pieces = SplitTokens(directive, '_');
+  if (pieces.size() < 2) return false;
+  const DirectiveKey key = DirectiveKeyOf(pieces[0]);
+  if (key == DirectiveKey::kVisible) return VisibilityOf(pieces[1]).has_value();
+  return key != DirectiveKey::kNone;
 }
 
 Directives ParseDirectives(std::string_view line, const FilePlace& place) {

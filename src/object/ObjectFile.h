@@ -1,6 +1,7 @@
 // The files that an object is made of, read into plain records.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -61,6 +62,14 @@ struct Directives {
   std::optional<std::int16_t> xpos;
   std::optional<std::int16_t> ypos;
 };
+
+// The key of a directive.
+enum class DirectiveKey { kVisible, kDepth, kState, kRunState, kXPos, kYPos, kNone };
+DirectiveKey DirectiveKeyOf(std::string_view word);
+
+// False for a word `key_value` that changes nothing on a line: without a known key and a value that
+// the key knows.
+bool SaysSomething(std::string_view directive);
 
 // Reads the words `key_value` of a directive line. Unknown keys are ignored; a known key without a
 // value, or a position that isn't a number, is fatal.

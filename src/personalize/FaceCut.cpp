@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "media/MemoryBitmap.h"
 #include "personalize/FaceFilter.h"
-#include "personalize/MemoryBitmap.h"
 
 namespace quendle {
 namespace {

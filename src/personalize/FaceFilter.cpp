@@ -22,7 +22,7 @@ int ToByte(double value) {
 // The two pixels next to a place on one axis and the weight of the second one.
 struct Neighbours {
   Neighbours(double place, int extent)
-      : first(RoundHalfBelow(place)),
+      : first(HalfBelowToEven(place)),
         second(first + 1 >= extent ? first : first + 1),
         part(place - first) {}
   int first;
@@ -37,9 +37,9 @@ std::uint8_t BlendChannel(int channel1, int channel2, int alpha) {
 
 }  // namespace
 
-std::int16_t RoundHalfBelow(double x) { return ToInt16(x - 0.5, "place in a picture"); }
+std::int16_t HalfBelowToEven(double x) { return ToInt16(x - 0.5, "place in a picture"); }
 
-std::int16_t RoundHalfAbove(double x) { return ToInt16(x + 0.5, "place in a picture"); }
+std::int16_t HalfAboveToEven(double x) { return ToInt16(x + 0.5, "place in a picture"); }
 
 std::uint8_t ExtractR(Color color) { return static_cast<std::uint8_t>(color & 255); }
 

@@ -9,9 +9,10 @@
 namespace quendle::face {
 
 // x minus 0.5, to the nearest integer with ties to the even one: 1.0 gives 0, 3.0 and 2.0 give 2.
-std::int16_t RoundHalfBelow(double x);
-// x plus 0.5, rounded the same way. Nothing asks for it: the other neighbour is one further.
-std::int16_t RoundHalfAbove(double x);
+// The "floor" of the filter, which isn't the mathematical one.
+std::int16_t HalfBelowToEven(double x);
+// x plus 0.5, rounded the same way: the "ceiling" that goes with it; asked for by nothing.
+std::int16_t HalfAboveToEven(double x);
 
 std::uint8_t ExtractR(Color color);
 std::uint8_t ExtractG(Color color);

@@ -6,58 +6,36 @@
 #include "dialogs/FormLayout.h"
 #include "dialogs/StartUpForm.h"
 #include "platform/Boxes.h"
-#include "platform/SystemServices.h"
 
 namespace quendle {
 namespace {
 
 constexpr int kMinimisePicture = 7;
-constexpr int kFirstFurtherPicture = 13;
 constexpr int kButtonHeight = 52;
 constexpr int kButtonWidth = 150;
 constexpr int kMargin = 18;
-constexpr Rect kTitleButtonSize{0, 0, 28, 28};
 
 }  // namespace
 
-WizardForm::WizardForm(const PersonalizeServices& services, std::string name, Size size, int last)
-    : PictureForm(services.forms, std::move(name), size, last),
-      personalize_(services),
-      last_picture_(last) {}
+WizardForm::WizardForm(const PersonalizeServices& services, std::string name, Size size)
+    : PictureForm(services.forms, std::move(name), size), personalize_(services) {}
 
 void WizardForm::Finish() {
   const int bottom = form_.size.height - kMargin;
   const int right = form_.size.width - kMargin;
-  AddPicturePair(form_, 1, "back", "Back",
-                 {kMargin, bottom - kButtonHeight, kMargin + kButtonWidth, bottom});
-  AddPicturePair(form_, 3, "next", "Next",
-                 {right - kButtonWidth, bottom - kButtonHeight, right, bottom});
-  AddPicturePair(form_, 7, "minimise", "Minimise", kTitleButtonSize);
-  AddPicturePair(form_, 9, "maximise", "Maximise", kTitleButtonSize);
-  AddPicturePair(form_, 11, "close", "Close", kTitleButtonSize);
+  const int top = bottom - kButtonHeight;
+  AddButtons({
+      {1, "back", "Back", {kMargin, top, kMargin + kButtonWidth, bottom}, [this] { Previous(); }},
+      {3, "next", "Next", {right - kButtonWidth, top, right, bottom}, [this] { Next(); }},
+  });
+  AddTitleButtons(kMinimisePicture, [this] { CloseWindow(); });
   LayoutTitleBar(form_, kMinimisePicture);
-  PairButtonPictures(form_, 1, last_picture_);
+  PairButtonPictures(form_, 1, LastPicture());
   LoadBorders(form_);
   Register();
 }
 
-void WizardForm::ButtonCommand(int index) {
-  if (index >= kFirstFurtherPicture) {
-    FurtherButton(index);
-  } else if (index >= 11) {
-    CloseWindow();
-  } else if (index >= 9) {
-    services_.system.Beep();
-  } else if (index >= 7) {
-    Minimise();
-  } else if (index >= 5) {
-    StageButton();
-  } else if (index >= 3) {
-    Next();
-  } else if (index >= 1) {
-    Previous();
-  }
-}
+void WizardForm::EndProgram() { personalize_.prompt.Unload(); }
 
 void WizardForm::CloseWindow() { BackToPrompt(); }
 

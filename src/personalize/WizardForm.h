@@ -7,30 +7,25 @@
 
 namespace quendle {
 
-// A stage of the wizard that puts a photograph into the game. Elements of Picture1, in pairs:
-// Previous, Next, a button of the stage's own, minimise, beep, close, and further ones.
+// A stage of the wizard that puts a photograph into the game. It has the buttons Previous (element
+// 1 of Picture1), Next (3), minimise (7), beep (9) and close (11), and others of the stage's own.
 class WizardForm : public PictureForm {
  public:
   void Show() { SetShown(true); }
   void QueryClose() override { CloseWindow(); }
+  void EndProgram() override;
 
  protected:
-  // `last` is the last element of Picture1.
-  WizardForm(const PersonalizeServices& services, std::string name, Size size, int last);
+  WizardForm(const PersonalizeServices& services, std::string name, Size size);
 
   // Adds Previous, Next and the title buttons, the bevel and the title, and makes the form known.
   void Finish();
 
-  void ButtonCommand(int index) override;
   // Enter goes on.
   int DefaultButton() const override { return 3; }
 
   virtual void Previous() = 0;
   virtual void Next() = 0;
-  // Elements 5 and 6.
-  virtual void StageButton() = 0;
-  // The elements behind the close button; `index` is 13 or more.
-  virtual void FurtherButton(int index) = 0;
 
   virtual void CloseWindow();
   // Hides this stage and shows the start-up form.
@@ -43,9 +38,6 @@ class WizardForm : public PictureForm {
   std::string WizardName() const;
 
   PersonalizeServices personalize_;
-
- private:
-  int last_picture_;
 };
 
 }  // namespace quendle

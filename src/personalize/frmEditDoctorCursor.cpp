@@ -12,7 +12,6 @@
 namespace quendle {
 namespace {
 
-constexpr int kLastPicture = 18;
 constexpr Size kCanvasSize{64, 128};
 constexpr Size kSuitSize{64, 96};
 constexpr Point kSuitPlace{0, 32};
@@ -40,7 +39,7 @@ void Clear(Gdi& gdi, ContextHandle context) {
 
 frmEditDoctorCursor::frmEditDoctorCursor(const PersonalizeServices& services,
                                          frmPartitionPicture& partition)
-    : WizardForm(services, "frmEditDoctorCursor", {600, 556}, kLastPicture),
+    : WizardForm(services, "frmEditDoctorCursor", {600, 556}),
       partition_(partition),
       canvas_(std::make_unique<MemoryBitmap>(services.gdi, kCanvasSize)) {
   form_.caption = "Move the Head Onto the Doctor's Suit";
@@ -52,10 +51,12 @@ frmEditDoctorCursor::frmEditDoctorCursor(const PersonalizeServices& services,
   AddImage(form_, "Picture1", 0, kSmallView).enabled = false;
   AddImage(form_, "Picture2", 0, {0, 0, kSuitSize.width, kSuitSize.height}).visible = false;
   AddImage(form_, "Picture3", 0, {0, 0, kFaceSize.width, kFaceSize.height}).visible = false;
-  AddPicturePair(form_, 5, "up", "Up", ArrowPlace(0, -1));
-  AddPicturePair(form_, 13, "left", "Left", ArrowPlace(-1, 0));
-  AddPicturePair(form_, 15, "right", "Right", ArrowPlace(1, 0));
-  AddPicturePair(form_, 17, "down", "Down", ArrowPlace(0, 1));
+  AddButtons({
+      {5, "up", "Up", ArrowPlace(0, -1), [this] { Move(0, -1); }},
+      {13, "left", "Left", ArrowPlace(-1, 0), [this] { Move(-1, 0); }},
+      {15, "right", "Right", ArrowPlace(1, 0), [this] { Move(1, 0); }},
+      {17, "down", "Down", ArrowPlace(0, 1), [this] { Move(0, 1); }},
+  });
   Finish();
 }
 
@@ -89,16 +90,6 @@ void frmEditDoctorCursor::Next() {
   done_->Show();
 }
 
-void frmEditDoctorCursor::FurtherButton(int index) {
-  if (index >= 17) {
-    Move(0, 1);
-  } else if (index >= 15) {
-    Move(1, 0);
-  } else {
-    Move(-1, 0);
-  }
-}
-
 std::unique_ptr<MemoryBitmap> frmEditDoctorCursor::Load(const char* name) {
   Gdi& gdi = personalize_.gdi;
   const std::string path = PersonFile(personalize_, name);
@@ -107,7 +98,7 @@ std::unique_ptr<MemoryBitmap> frmEditDoctorCursor::Load(const char* name) {
     throw FatalError("the picture can't be read: " + gdi.WhyNotLoaded(),
                      {services_.files.DisplayName(path), 0});
   }
-  return std::make_unique<MemoryBitmap>(gdi, bitmap);
+  return std::make_unique<MemoryBitmap>(gdi, 0, bitmap);
 }
 
 void frmEditDoctorCursor::Move(int x, int y) {

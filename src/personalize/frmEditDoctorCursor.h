@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "personalize/MemoryBitmap.h"
+#include "media/MemoryBitmap.h"
 #include "personalize/WizardForm.h"
 
 namespace quendle {
@@ -27,8 +27,6 @@ class frmEditDoctorCursor : public WizardForm {
   void CloseWindow() override;
   void Previous() override;
   void Next() override;
-  void StageButton() override { Move(0, -1); }
-  void FurtherButton(int index) override;
 
  private:
   std::unique_ptr<MemoryBitmap> Load(const char* name);

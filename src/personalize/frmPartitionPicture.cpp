@@ -14,7 +14,6 @@
 namespace quendle {
 namespace {
 
-constexpr int kLastPicture = 14;
 constexpr Rect kWholeView{18, 104, 762, 500};
 constexpr int kBarWidth = 22;
 constexpr int kBarGap = 4;
@@ -42,9 +41,7 @@ void SetBar(Control& bar, bool shown, int beyond, int part, const Rect& area) {
 
 frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
                                          frmSelectPicture& select)
-    : WizardForm(services, "frmPartitionPicture", {780, 590}, kLastPicture),
-      select_(select),
-      view_(kWholeView) {
+    : WizardForm(services, "frmPartitionPicture", {780, 590}), select_(select), view_(kWholeView) {
   form_.caption = "Draw Points Around the Face";
   AddLabel(form_, "Label1", form_.caption, {0, 0, 0, 28}).font_size = kTitleFontSize;
   AddLabel(form_, "Label3", " Stage 2 of 4", {18, 50, 150, 74});
@@ -54,8 +51,10 @@ frmPartitionPicture::frmPartitionPicture(const PersonalizeServices& services,
   AddLabel(form_, "lblHelp",
            "Click all the way round: the outline closes by itself. The bars move the photograph.",
            {130, 74, 762, 98});
-  AddPicturePair(form_, 5, "undo", "Undo", {222, 520, 382, 572});
-  AddPicturePair(form_, 13, "reset", "Start over", {398, 520, 558, 572});
+  AddButtons({
+      {5, "undo", "Undo", {222, 520, 382, 572}, [this] { UndoLine(); }},
+      {13, "reset", "Start over", {398, 520, 558, 572}, [this] { ResetLines(); }},
+  });
   AddScroll(form_, "HScroll1", {}).visible = false;
   AddScroll(form_, "VScroll1", {}).visible = false;
   AddImage(form_, "Picture2", 0, {0, 75, kFaceSize.width, 75 + kFaceSize.height}).visible = false;
@@ -87,7 +86,7 @@ void frmPartitionPicture::LoadImage(const std::string& path) {
   }
   picture_ = std::move(loaded.picture);
   Gdi& gdi = personalize_.gdi;
-  photograph_ = std::make_unique<MemoryBitmap>(gdi, gdi.CreatePictureBitmap(*picture_));
+  photograph_ = std::make_unique<MemoryBitmap>(gdi, 0, gdi.CreatePictureBitmap(*picture_));
   Image().image = picture_;
   Image().visible = true;
   FitScrollBars();
@@ -121,18 +120,6 @@ void frmPartitionPicture::Set(Control& control, int value) {
   Changed();
 }
 
-void frmPartitionPicture::PartitionCommand(std::string_view command) {
-  if (command == "Next") {
-    CutAndGoOn();
-  } else if (command == "Previous") {
-    BackToSelection();
-  } else if (command == "ResetLines") {
-    ResetLines();
-  } else if (command == "UndoLine") {
-    UndoLine();
-  }
-}
-
 void frmPartitionPicture::CloseWindow() {
   ReleasePhotograph();
   WizardForm::CloseWindow();
@@ -144,7 +131,7 @@ void frmPartitionPicture::BackToSelection() {
   select_.Open();
 }
 
-void frmPartitionPicture::CutAndGoOn() {
+void frmPartitionPicture::Next() {
   if (!OutlineIsWanted()) return;
   auto face = std::make_shared<const Picture>(
       CutFace(personalize_.gdi, photograph_->Context(), outline_.PixelPoints()));

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "personalize/MemoryBitmap.h"
+#include "media/MemoryBitmap.h"
 #include "personalize/Outline.h"
 #include "personalize/WizardForm.h"
 
@@ -39,15 +39,11 @@ class frmPartitionPicture : public WizardForm {
 
  protected:
   void CloseWindow() override;
-  void Previous() override { PartitionCommand("Previous"); }
-  void Next() override { PartitionCommand("Next"); }
-  void StageButton() override { PartitionCommand("UndoLine"); }
-  void FurtherButton(int) override { PartitionCommand("ResetLines"); }
+  void Previous() override { BackToSelection(); }
+  void Next() override;
 
  private:
-  void PartitionCommand(std::string_view command);
   void BackToSelection();
-  void CutAndGoOn();
   bool OutlineIsWanted();
   void UndoLine();
   void AddPoint(Point pixel);

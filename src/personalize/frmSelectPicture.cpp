@@ -12,7 +12,6 @@
 namespace quendle {
 namespace {
 
-constexpr int kLastPicture = 12;
 constexpr Rect kPreview{306, 98, 576, 346};
 // Twice the room of the preview: enough for a display that shows the form enlarged.
 constexpr PictureLimit kPreviewLimit{540, 540};
@@ -42,7 +41,7 @@ Rect PlaceInMiddle(Size picture, const Rect& room) {
 }  // namespace
 
 frmSelectPicture::frmSelectPicture(const PersonalizeServices& services)
-    : WizardForm(services, "frmSelectPicture", {600, 462}, kLastPicture) {
+    : WizardForm(services, "frmSelectPicture", {600, 462}) {
   form_.caption = WizardName();
   AddLabel(form_, "Label1", "Stage 1 of 4", {0, 0, 0, 28}).font_size = kTitleFontSize;
   AddLabel(form_, "Label4", "Select a Picture", {20, 52, 290, 82}).font_size = kTitleFontSize;
@@ -51,7 +50,7 @@ frmSelectPicture::frmSelectPicture(const PersonalizeServices& services)
            "draw a line around the face.\n \nYou can also drop a photograph on this window.\n \n"
            "It stays on this computer: nothing is sent anywhere.",
            {20, 92, 284, 280});
-  AddPicturePair(form_, 5, "browse", "Browse...", {20, 290, 284, 350});
+  AddButtons({{5, "browse", "Browse...", {20, 290, 284, 350}, [this] { Browse(); }}});
   AddFrame(form_, "Frame1", "", {296, 78, 586, 354});
   AddLabel(form_, "lblEmpty", "Your photograph is shown here.", {328, 206, 576, 236});
   AddImage(form_, "Image1", 0, kPreview).visible = false;

@@ -27,8 +27,6 @@ class frmSelectPicture : public WizardForm {
  protected:
   void Previous() override { BackToPrompt(); }
   void Next() override;
-  void StageButton() override { Browse(); }
-  void FurtherButton(int) override { CloseWindow(); }
 
  private:
   void Browse();

@@ -70,6 +70,9 @@ class FormEvents {
   virtual void Drop(const std::string& /*native_path*/) {}
   virtual void Key(FormKey key) = 0;
   virtual void QueryClose() = 0;  // the window system asks the form to close
+  // The system wants the program to end, by a signal for instance. A box is no more than closed:
+  // who asked it goes on, and what stands behind it is told then.
+  virtual void EndProgram() { QueryClose(); }
 };
 
 }  // namespace quendle

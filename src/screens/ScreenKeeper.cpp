@@ -10,26 +10,18 @@
 #include "object/ObjectFactory.h"
 #include "platform/FileSystem.h"
 #include "platform/Ports.h"
+#include "screens/ScreenNames.h"
 
 namespace quendle {
 namespace {
 
 bool IsSubgame(const GameObjectInterface& screen) {
-  return EqualsNoCase(screen.ObjectType(), "subgame");
+  return EqualsNoCase(screen.ObjectType(), kSubgameType);
 }
 
-bool IsTutorial(const GameObjectInterface& screen) {
-  return ContainsNoCase(screen.ObjectName(), "tutorial");
-}
-
-bool IsFixture(const std::string& name) {
-  return EqualsNoCase(name, "tools") || EqualsNoCase(name, "cursors");
-}
-
-// Screens that are never written to the saved game.
-bool IsLeftOut(const std::string& name) {
-  return ContainsNoCase(name, "tutorial") || ContainsNoCase(name, "cursors") ||
-         ContainsNoCase(name, "square") || ContainsNoCase(name, "shooter");
+// Built anew at each visit.
+bool IsNeverKept(const GameObjectInterface& screen) {
+  return IsTutorial(screen.ObjectName()) || IsSubgame(screen);
 }
 
 // Takes the last memento of that name out of the list and puts the new one at the end.
@@ -70,7 +62,7 @@ ObjectRef ScreenKeeper::GetScreen(const std::string& name) {
   ObjectRef screen = BuildScreen(name);
   if (screen == nullptr) return nullptr;
   RestoreMemento(screen);
-  if (IsTutorial(*screen) || IsSubgame(*screen)) return screen;
+  if (IsNeverKept(*screen)) return screen;
   MakeRoom();
   m_colScreenCache.Add(ScreenCacheEntry{screen}, screen->ObjectName());
   return screen;
@@ -120,7 +112,7 @@ void ScreenKeeper::MakeRoom() {
 
 bool ScreenKeeper::MayGo(const ScreenCacheEntry& entry) const {
   const GameObjectInterface& screen = *entry.m_ptrGameObject;
-  if (!entry.m_bFreeToRelease || IsFixture(screen.ObjectName())) return false;
+  if (!entry.m_bFreeToRelease || IsLayer(screen.ObjectName())) return false;
   // A screen that is entered anew from itself is both the one left and the one in view: it is freed
   // as the former while it is still the latter.
   return held_ == nullptr || !held_(screen);
@@ -141,7 +133,7 @@ void ScreenKeeper::SaveScreen(const ObjectRef& screen) {
   for (auto& entry : m_colScreenCache) {
     GameObjectInterface& cached = *entry.value.m_ptrGameObject;
     if (!EqualsNoCase(cached.ObjectName(), screen->ObjectName())) continue;
-    if (!IsTutorial(cached) && !IsSubgame(cached)) StoreMemento(TakeMemento(cached));
+    if (!IsNeverKept(cached)) StoreMemento(TakeMemento(cached));
   }
 }
 
@@ -173,36 +165,42 @@ void ScreenKeeper::RestoreMemento(const ObjectRef& screen) {
   for (const auto& entry : m_colMementos) {
     if (!EqualsNoCase(entry.value->ObjectName(), screen->ObjectName())) continue;
     GameObjectMemento::Ref memento = entry.value;
+    restoring_ = true;
     screen->LoadMemento(*memento);
+    restoring_ = false;
     return;
   }
 }
 
 void ScreenKeeper::LoadGame(const std::string& file_name) {
-  const ContentFiles& files = world_.media.content;
-  const std::string path = FullPath(file_name);
-  if (!files.FileExistsAt(path)) return;
-  auto stream = files.OpenTextFileChecked(path, OpenMode::kRead, false);
-  stream->ReadLine("the first line of a saved game");
-  ReadMementos(*stream);
+  auto stream = world_.media.content.OpenPlayerFile(FullPath(file_name));
+  if (stream == nullptr) return;
+  ReadSavedGame(*stream, world_.watch.depth, m_colMementos);
   stream->Close();
 }
 
-void ScreenKeeper::ReadMementos(TextStream& stream) {
+void ScreenKeeper::ReadSavedGame(TextStream& stream, WorkDepth& depth,
+                                 GameObjectMemento::List& list) {
+  stream.ReadLine("the first line of a saved game");
   while (!EqualsNoCase(stream.ReadLine("\"begin\" or \"end\" of a saved game"), "end")) {
     auto memento = std::make_shared<GameObjectMemento>();
-    memento->LoadFromFile(stream, world_.watch.depth);
+    memento->LoadFromFile(stream, depth);
     std::string name = memento->ObjectName();
-    m_colMementos.Add(std::move(memento), std::move(name), stream.Place());
+    list.Add(std::move(memento), std::move(name), stream.Place());
   }
 }
 
 void ScreenKeeper::SaveGame(const std::string& file_name) {
   SaveAllMementos();
-  auto stream =
-      world_.media.content.OpenTextFileChecked(FullPath(file_name), OpenMode::kWrite, true);
-  WriteMementos(*stream, m_colMementos);
-  stream->Close();
+  std::string bytes;
+  TextComposer composer(bytes);
+  WriteMementos(composer, m_colMementos);
+  if (world_.media.content.TryWrite(FullPath(file_name), bytes)) return;
+  throw FatalError::WithBox(
+      "The game could not be saved in " + file_name +
+          ": the disk is full, or it may not be written to.\nWhat was kept of it before comes back "
+          "with the next start.",
+      {file_name, 0});
 }
 
 bool ScreenKeeper::WriteSnapshot(const std::string& file_name) const {
@@ -213,7 +211,7 @@ bool ScreenKeeper::WriteSnapshot(const std::string& file_name) const {
   std::string bytes;
   TextComposer composer(bytes);
   WriteMementos(composer, list);
-  return world_.media.ports.files.Write(FullPath(file_name), bytes);
+  return world_.media.content.TryWrite(FullPath(file_name), bytes);
 }
 
 void ScreenKeeper::SaveAllMementos() {
@@ -225,7 +223,7 @@ void ScreenKeeper::SaveAllMementos() {
 void ScreenKeeper::WriteMementos(TextStream& stream, const GameObjectMemento::List& list) const {
   stream.WriteLine("begin");
   for (const auto& entry : list) {
-    if (!IsLeftOut(entry.value->ObjectName())) {
+    if (!IsNeverSaved(entry.value->ObjectName())) {
       entry.value->SaveToFile(stream, world_.watch.depth);
     }
   }
@@ -244,7 +242,7 @@ bool ScreenKeeper::DoesScreenExist(const std::string& name) const {
 
 void ScreenKeeper::EnumerateScreens(std::vector<std::string>& names) const {
   for (const auto& entry : m_colScreenInfo) {
-    if (!IsFixture(entry.value.ScreenName)) names.push_back(entry.value.ScreenName);
+    if (!IsLayer(entry.value.ScreenName)) names.push_back(entry.value.ScreenName);
   }
 }
 

@@ -52,10 +52,13 @@ class ScreenKeeper {
   void SaveScreen(const ObjectRef& screen);
   // Takes the state of a cached screen, and destroys it.
   void ReleaseScreen(const ObjectRef& screen);
+  // Reads the records of a saved game; a damaged one is fatal.
+  static void ReadSavedGame(TextStream& stream, WorkDepth& depth, GameObjectMemento::List& list);
   // Reads the saved game (name beside the executable); a missing file is a new game, a damaged one
-  // is fatal.
+  // is fatal, and so is one that can't be read.
   void LoadGame(const std::string& file_name);
-  // Takes the state of all cached screens and replaces the saved game. A failed write is fatal.
+  // Takes the state of all cached screens and replaces the saved game. A failed write is fatal, and
+  // the old file stands.
   void SaveGame(const std::string& file_name);
   // Writes the same as SaveGame would, and changes nothing in the keeper. False when that fails.
   bool WriteSnapshot(const std::string& file_name) const;
@@ -68,6 +71,8 @@ class ScreenKeeper {
 
   const KeyedList<ScreenCacheEntry>& Cache() const { return m_colScreenCache; }
   const KeyedList<ScreenInfoEntry>& Table() const { return m_colScreenInfo; }
+  // A fault has stopped the putting back of a record: what was saved doesn't fit the content.
+  bool RestoreHasFailed() const { return restoring_; }
   const GameObjectMemento::List& Mementos() const { return m_colMementos; }
 
  private:
@@ -79,7 +84,6 @@ class ScreenKeeper {
   void StoreMemento(GameObjectMemento::Ref memento);
   void RestoreMemento(const ObjectRef& screen);
   void SaveAllMementos();
-  void ReadMementos(TextStream& stream);
   void WriteMementos(TextStream& stream, const GameObjectMemento::List& list) const;
   std::string FullPath(const std::string& file_name) const;
 
@@ -90,6 +94,7 @@ class ScreenKeeper {
   GameObjectMemento::List m_colMementos{"saved screen"};
   std::weak_ptr<MessageTarget> m_ptrGameLogic;
   ContextHandle m_hDC = 0;
+  bool restoring_ = false;
 };
 
 }  // namespace quendle

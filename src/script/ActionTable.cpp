@@ -1,5 +1,7 @@
 #include "script/ActionTable.h"
 
+#include <utility>
+
 namespace quendle {
 
 const ActionText& ActionTable::Get(std::string_view text) {

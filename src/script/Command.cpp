@@ -78,7 +78,8 @@ std::string_view NodeTypeName(NodeType type) {
 void Command::Parse(const std::vector<ScriptLine>& lines, std::size_t& position, std::string& stack,
                     WorkDepth& depth) {
   const ScriptLine& line = LineAt(lines, position);
-  DepthGuard guard(depth, Work::kLoad, line.text, nullptr, &line.place);
+  const DepthGuard guard(depth, Work::kBlock, line.text, nullptr, &line.place);
+  guard.KeepWithin(kDeepestBlocks, "blocks");
   place_ = line.place;
   std::vector<std::string> words = SplitTokens(line.text, ' ');
   if (words.empty()) {

@@ -30,6 +30,10 @@ std::string_view NodeTypeName(NodeType type);
 // What a node answers when it has run.
 enum class Answer { kEmpty, kTrue, kFalse };
 
+// Blocks inside one another in a script: more are fatal. A branch counts as one, and so does the
+// chain of branches that it belongs to.
+inline constexpr int kDeepestBlocks = 60;
+
 // A statement of a parsed script with the statements inside it.
 //
 // Block words are recognised by searching a line for them, and content is written against that: in

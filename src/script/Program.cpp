@@ -57,7 +57,7 @@ void Program::EmitChoice(const Command* first, std::size_t count) {
   for (std::uint32_t jump : jumps_to_end) steps_[jump].target = Next();
 }
 
-std::uint32_t Program::Evaluate(const Choice& choice, const ScriptVariables& variables) {
+std::uint32_t Program::Choose(const Choice& choice, const ScriptVariables& variables) {
   for (const Branch& branch : choice.branches) {
     const bool matches = branch.condition == nullptr ||
                          (branch.pattern != nullptr ? branch.pattern->Matches(variables.Action())
@@ -65,18 +65,6 @@ std::uint32_t Program::Evaluate(const Choice& choice, const ScriptVariables& var
     if (matches) return branch.target;
   }
   return choice.otherwise;
-}
-
-std::uint32_t Program::Choose(const Choice& choice, const ScriptVariables& variables) {
-  const ActionText& action = variables.Action();
-  if (choice.known[0] == &action) return choice.known_target[0];
-  if (choice.known[1] == &action) return choice.known_target[1];
-  const std::uint32_t target = Evaluate(choice, variables);
-  if (action.IsInterned()) {
-    choice.known[1] = std::exchange(choice.known[0], &action);
-    choice.known_target[1] = std::exchange(choice.known_target[0], target);
-  }
-  return target;
 }
 
 void Program::Tell(const Choice& choice, std::uint32_t target, BranchListener& listener) {
@@ -89,14 +77,40 @@ void Program::Tell(const Choice& choice, std::uint32_t target, BranchListener& l
   listener.Chosen(nullptr, false);
 }
 
+std::uint32_t Program::FirstAct(const ScriptVariables& variables) const {
+  for (std::uint32_t at = 0; at < steps_.size();) {
+    const Step& step = steps_[at];
+    if (step.kind == Kind::kAct) return at;
+    at = step.kind == Kind::kChoose ? Choose(choices_[step.target], variables) : step.target;
+  }
+  return kNoAct;
+}
+
+void Program::RunFrom(std::uint32_t act, const ScriptVariables& variables,
+                      ScriptTarget& target) const {
+  for (std::uint32_t at = act; at < steps_.size();) {
+    const Step& step = steps_[at];
+    if (step.kind == Kind::kAct) {
+      Act(step, target);
+      ++at;
+    } else {
+      at = step.kind == Kind::kChoose ? Choose(choices_[step.target], variables) : step.target;
+    }
+  }
+}
+
+void Program::Act(const Step& step, ScriptTarget& target) {
+  bool unused = false;
+  target.Interpret(*step.statement, false, unused);
+}
+
 Answer Program::Run(const ScriptVariables& variables, ScriptTarget& target) const {
   const std::size_t count = steps_.size();
   bool matched = true;
   for (std::size_t at = 0; at < count;) {
     const Step& step = steps_[at];
     if (step.kind == Kind::kAct) {
-      bool unused = false;
-      target.Interpret(*step.statement, false, unused);
+      Act(step, target);
       ++at;
     } else if (step.kind == Kind::kChoose) {
       const Choice& choice = choices_[step.target];

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -8,13 +7,9 @@
 
 namespace quendle {
 
-class ActionText;
 class BranchListener;
 
 // A tree of commands as a list of steps, side by side in memory: what an event has to look at.
-//
-// An `if` remembers for its last two action texts which branch they lead to: at most events an
-// object gets the same text as before, usually that the pointer is somewhere else.
 class Program {
  public:
   Program() = default;
@@ -24,6 +19,13 @@ class Program {
   // Runs the steps. The answer is that of the root node: a condition's "true" or "false", "true"
   // for an if, nothing for a block or an action.
   Answer Run(const ScriptVariables& variables, ScriptTarget& target) const;
+
+  static constexpr std::uint32_t kNoAct = UINT32_MAX;
+  // The step of the first statement that a run carries out, kNoAct if there is none. It hangs on
+  // the text alone, so that who gets the same text again can go on from there.
+  std::uint32_t FirstAct(const ScriptVariables& variables) const;
+  // The rest of a run from there on, without a listener.
+  void RunFrom(std::uint32_t act, const ScriptVariables& variables, ScriptTarget& target) const;
 
  private:
   enum class Kind : std::uint8_t { kChoose, kAct, kJump };
@@ -39,8 +41,6 @@ class Program {
     std::uint32_t target = 0;
   };
   struct Choice {
-    mutable std::array<const ActionText*, 2> known{};
-    mutable std::array<std::uint32_t, 2> known_target{};
     std::uint32_t otherwise = 0;  // where no branch matches
     std::vector<Branch> branches;
   };
@@ -50,9 +50,10 @@ class Program {
   // One choice among the branches; `node` itself is the only branch of a condition node.
   void EmitChoice(const Command* first, std::size_t count);
   std::uint32_t Next() const { return static_cast<std::uint32_t>(steps_.size()); }
+  static void Act(const Step& step, ScriptTarget& target);
+  // Where the branch begins that the text leads to.
   static std::uint32_t Choose(const Choice& choice, const ScriptVariables& variables);
   static void Tell(const Choice& choice, std::uint32_t target, BranchListener& listener);
-  static std::uint32_t Evaluate(const Choice& choice, const ScriptVariables& variables);
 
   std::vector<Step> steps_;
   std::vector<Choice> choices_;

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "script/Command.h"
@@ -29,6 +30,7 @@ class ScriptState {
   void PrintScript(std::vector<std::string>& lines) const { root_->PrintCommand(lines); }
 
   const Command& Root() const { return *root_; }
+  const Program& Steps() const { return program_; }
 
  private:
   Program program_;                                              // of root_

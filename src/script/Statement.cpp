@@ -1,22 +1,45 @@
 #include "script/Statement.h"
 
 #include <utility>
-#include <vector>
 
-#include "base/Text.h"
+#include "base/FirstFit.h"
 
 namespace quendle {
 namespace {
 
+struct Row {
+  FitRow<StatementVerb> test;
+  StatementMeaning meaning;
+};
+
+constexpr Row kRows[] = {
+    {{Fit::kIs, "mtp", StatementVerb::kMtp}, StatementMeaning::kMessage},
+    {{Fit::kIs, "change", StatementVerb::kChange}, StatementMeaning::kState},
+    {{Fit::kIs, "runsound", StatementVerb::kRunSound}, StatementMeaning::kSound},
+    {{Fit::kIs, "runstate", StatementVerb::kRunState}, StatementMeaning::kPassingState},
+};
+
 StatementVerb VerbOf(std::string_view word) {
-  if (EqualsNoCase(word, "mtp")) return StatementVerb::kMtp;
-  if (EqualsNoCase(word, "change")) return StatementVerb::kChange;
-  if (EqualsNoCase(word, "runsound")) return StatementVerb::kRunSound;
-  if (EqualsNoCase(word, "runstate")) return StatementVerb::kRunState;
+  for (const Row& row : kRows) {
+    if (row.test.Takes(word)) return row.test.answer;
+  }
   return StatementVerb::kOther;
 }
 
 }  // namespace
+
+StatementMeaning MeaningOf(StatementVerb verb) {
+  for (const Row& row : kRows) {
+    if (row.test.answer == verb) return row.meaning;
+  }
+  return StatementMeaning::kNothing;
+}
+
+std::vector<std::string> StatementWords() {
+  std::vector<std::string> words;
+  for (const Row& row : kRows) words.emplace_back(row.test.word);
+  return words;
+}
 
 Statement::Statement(std::string_view text, FilePlace origin)
     : text_(text), origin_(std::move(origin)) {

@@ -77,6 +77,7 @@ Application::Status Application::Deliver(const std::function<void()>& work) {
 void Application::OpenGameWindow() {
   globals_ = std::make_unique<Globals>(settings_, ports_, content_);
   if (tester_) globals_->Tester = std::make_unique<TesterRun>(globals_->objects, *tester_);
+  globals_->forgiving = forgiving_;
   globals_->media.UseDirectX = true;
   globals_->media.FullScreen = true;
   globals_->debug_window = debug_window_;
@@ -107,6 +108,7 @@ void Application::ReportFault(const FatalError& error) {
   for (const TimerInfo& timer : ports_.timers.Running()) ports_.timers.KillTimer(timer.id);
   fault_.box_text = ComposeBox(error, fault_);
   if (globals_ != nullptr) {
+    GiveUpWhatFailed(*globals_);
     if (globals_->EventLog != nullptr) {
       globals_->EventLog->LogEvent("Fatal: " + fault_.box_text, kFaultLevel, "General");
     }

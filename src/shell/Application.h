@@ -62,6 +62,10 @@ class Application : private GameStarter {
   Globals* Game() { return globals_.get(); }
   // Switches the recorder of user actions on; before Play.
   void SetTester(TesterOptions options) { tester_ = std::move(options); }
+  // What a family at home is spared, before Play: the last three good saves are kept, and one of
+  // them takes the place of a saved game that can't be read; a disk that takes nothing doesn't get
+  // the event log either. Without it these are faults.
+  void SetForgiving(bool on) { forgiving_ = on; }
   // Told to the game when it starts; may be null.
   void SetTracer(Tracer* tracer);
   void SetBlitWatcher(BlitWatcher* watcher);
@@ -88,6 +92,7 @@ class Application : private GameStarter {
   BlitWatcher* blit_watcher_ = nullptr;
   Debomb_Window* debug_window_ = nullptr;
   Status status_ = Status::kRunning;
+  bool forgiving_ = false;
   bool delivering_ = false;  // an outermost frame is on the stack
   FaultReport fault_;
 };

@@ -3,20 +3,23 @@
 #include <memory>
 #include <string>
 
+#include "base/PlayerFiles.h"
 #include "base/Settings.h"
 #include "diagnostics/TestingObject.h"
 #include "logic/GameLogicLayer.h"
 #include "logic/IllnessFiles.h"
 #include "media/Graphics.h"
-#include "shell/AutosaveFiles.h"
+#include "platform/Boxes.h"
 #include "shell/Globals.h"
 #include "shell/Registries.h"
+#include "shell/SavedGames.h"
 #include "shell/SettingsFiles.h"
 #include "shell/TesterRun.h"
 
 namespace quendle {
 namespace {
 
+constexpr const char* kLogCategory = "general";
 constexpr std::int16_t kLogThreshold = 10;
 
 void SelectIllness(const Globals& globals) {
@@ -27,21 +30,36 @@ void SelectIllness(const Globals& globals) {
   SelectIllnessFiles(globals.media.content, settings.GameEdition, settings.FullIllnessScripts);
 }
 
+void UseLog(Globals& globals, EventSink* log) {
+  globals.media.log = log;
+  globals.objects.log = log;
+  globals.media.content.SetLog(log);
+}
+
+// The log is used once it is whole: a fault on the way must not be told to half a log. A disk that
+// has refused other files, too, is told of once; by itself, a log that can't be made is a fault.
 void CreateEventLog(Globals& globals) {
-  globals.EventLog = std::make_unique<TestingObject>(
-      globals.media.ports.files, globals.media.settings.BaseDirectory, &globals.watch);
-  globals.EventLog->SetMirror(globals.debug_window);
-  globals.EventLog->Initialize("general", "general.txt", nullptr, kLogThreshold);
-  globals.media.log = globals.EventLog.get();
-  globals.objects.log = globals.EventLog.get();
+  auto log = std::make_unique<TestingObject>(globals.media.ports.files,
+                                             globals.media.settings.BaseDirectory, &globals.watch);
+  log->SetMirror(globals.debug_window);
+  if (!globals.forgiving || !globals.media.content.HasUnsaved()) {
+    log->Initialize(kLogCategory, kEventLogFile, nullptr, kLogThreshold);
+  } else if (!log->TryInitialize(kLogCategory, kEventLogFile, kLogThreshold)) {
+    log->InitializeWithoutFile(kLogCategory, kLogThreshold);
+  }
+  globals.EventLog = std::move(log);
+  UseLog(globals, globals.EventLog.get());
+}
+
+void TellFamily(Globals& globals, const std::string& sentence) {
+  if (sentence.empty()) return;
+  globals.media.ports.boxes.MessageBox(globals.media.settings.ProductName, sentence);
 }
 
 }  // namespace
 
 void StartUpGame(Globals& globals, SettingsFiles& files, GameHost& host, int window,
                  ContextHandle context) {
-  // Asked before this run marks itself: afterwards the answer is gone.
-  const bool ended_in_order = files.LastRunEndedInOrder();
   files.WriteGameRunning(true);
   globals.media.UseDirectX = true;
   globals.media.FullScreen = true;
@@ -54,21 +72,25 @@ void StartUpGame(Globals& globals, SettingsFiles& files, GameHost& host, int win
   globals.GameLogic = std::make_shared<GameLogicLayer>(globals.objects, host);
   LoadGlobalScripts(globals);
   LoadGlobalObjects(globals, context);
-  const AutosaveFiles autosave(globals.media.content);
-  const std::string saved_game = autosave.ChooseSavedGame(ended_in_order);
-  globals.GameLogic->Initialize(context, saved_game);
-  if (globals.Tester != nullptr) globals.Tester->Start(globals.GameLogic, saved_game);
+  const SavedGames saves(globals.media.content, globals.forgiving);
+  const SavedGames::Choice choice = saves.Choose();
+  globals.recovering = choice.file == kAutosaveFile;
+  globals.GameLogic->Initialize(context, choice.file);
+  if (globals.Tester != nullptr) globals.Tester->Start(globals.GameLogic, choice.file);
   globals.GameLogic->TurnOn();
-  // The start went well: what it recovered must outlive the next crash, too.
-  if (AutosaveFiles::IsSetAside(saved_game) && globals.GameLogic->Autosave()) {
-    autosave.ForgetSetAside();
-  }
+  globals.recovering = false;
+  saves.KeepGood(choice.file);
+  TellFamily(globals, choice.sentence);
+  if (globals.media.content.HasUnsaved()) TellFamily(globals, kNothingRemembered);
 }
 
 void ShutDownGame(Globals& globals, SettingsFiles& files) {
   files.WriteGameRunning(false);
   if (globals.GameLogic != nullptr) {
+    const bool saved = globals.GameLogic->Keeper() != nullptr && !globals.GameLogic->GameReset();
     globals.GameLogic->TurnOff();
+    const SavedGames saves(globals.media.content, globals.forgiving);
+    if (saved) saves.KeepGood(kSavedGameFile);
     globals.GameLogic->Release();
     globals.GameLogic.reset();
   }
@@ -83,10 +105,16 @@ void ShutDownGame(Globals& globals, SettingsFiles& files) {
   globals.scripts.GlobalScripts.Clear();
   globals.media.PictureRegistry.Clear();
   globals.objects.TimedObjects.Clear();
-  globals.media.log = nullptr;
-  globals.objects.log = nullptr;
+  UseLog(globals, nullptr);
   globals.EventLog.reset();
   ReleaseDisplay(globals);
+}
+
+void GiveUpWhatFailed(Globals& globals) {
+  if (!globals.recovering || globals.GameLogic == nullptr) return;
+  const ScreenKeeper* keeper = globals.GameLogic->Keeper();
+  if (keeper == nullptr || !keeper->RestoreHasFailed()) return;
+  SavedGames(globals.media.content, globals.forgiving).GiveUpAutosave();
 }
 
 void ReleaseDisplay(Globals& globals) {

@@ -35,6 +35,8 @@ struct Globals {
   Debomb_Window* debug_window = nullptr;      // shows the event log too, if there is one
   std::shared_ptr<GameLogicLayer> GameLogic;  // null before it is created and after its end
   std::unique_ptr<TesterRun> Tester;          // null unless the recorder is switched on
+  bool forgiving = false;                     // as Application::SetForgiving
+  bool recovering = false;                    // the start under way has loaded the autosave
 };
 
 }  // namespace quendle

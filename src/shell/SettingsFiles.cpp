@@ -1,73 +1,68 @@
 #include "shell/SettingsFiles.h"
 
 #include "base/ContentFiles.h"
+#include "base/PlayerFiles.h"
 #include "base/Settings.h"
 #include "base/Text.h"
 
 namespace quendle {
 
 void SettingsFiles::ReadOptions() {
-  const std::string personalize = OptionalLine("Personalize.txt").value_or("");
+  const std::string personalize = OptionalLine(kPersonalizeFile).value_or("");
   settings_.PersonalizeOn = EqualsNoCase(personalize, "on");
 
-  const std::string level = OptionalLine("DifficultyLevel.txt").value_or("");
+  const std::string level = OptionalLine(kDifficultyLevelFile).value_or("");
   settings_.DifficultyLevel = "normal";
   for (const char* known : {"Easy", "Hard"}) {
     if (EqualsNoCase(level, known)) settings_.DifficultyLevel = known;
   }
 
-  settings_.GraphicsMode = OptionalLine("GraphicsMode.txt").value_or("") == "16" ? 16 : 32;
+  settings_.GraphicsMode = OptionalLine(kGraphicsModeFile).value_or("") == "16" ? 16 : 32;
 }
 
 void SettingsFiles::SaveOptions() {
-  files_.WriteOneLine(PathOf("personalize.txt"), settings_.PersonalizeOn ? "On" : "Off");
-  files_.WriteOneLine(PathOf("GraphicsMode.txt"), settings_.GraphicsMode == 32 ? "32" : "16");
+  files_.WriteOneLine(PathOf(kPersonalizeFileWritten), settings_.PersonalizeOn ? "On" : "Off");
+  files_.WriteOneLine(PathOf(kGraphicsModeFile), settings_.GraphicsMode == 32 ? "32" : "16");
   std::string level = "Normal";
   for (const char* known : {"Easy", "Hard"}) {
     if (EqualsNoCase(settings_.DifficultyLevel, known)) level = known;
   }
-  files_.WriteOneLine(PathOf("DifficultyLevel.txt"), level);
+  files_.WriteOneLine(PathOf(kDifficultyLevelFile), level);
 }
 
 void SettingsFiles::ReadGameMode() {
-  const std::string path = PathOf("GameMode.txt");
-  if (!files_.FileExistsAt(path)) files_.WriteOneLine(path, "Normal");
-  if (EqualsNoCase(RequiredLine("GameMode.txt", "the game mode"), "Safe")) {
-    settings_.SafeMode = true;
-  }
+  const std::optional<std::string> mode = RequiredLine(kGameModeFile, "the game mode");
+  if (!mode) files_.WriteOneLine(PathOf(kGameModeFile), "Normal");
+  if (EqualsNoCase(mode.value_or("Normal"), "Safe")) settings_.SafeMode = true;
 }
 
 bool SettingsFiles::DialogModeExists() const {
-  return files_.FileExistsAt(PathOf("DialogMode.txt"));
+  return files_.FileExistsAt(PathOf(kDialogModeFile));
 }
 
 bool SettingsFiles::GameRunningIsOn() const {
-  if (!files_.FileExistsAt(PathOf("GameRunning.txt"))) return false;
-  return EqualsNoCase(RequiredLine("GameRunning.txt", "the word On or Off"), "on");
-}
-
-bool SettingsFiles::LastRunEndedInOrder() const {
-  return !EqualsNoCase(OptionalLine("GameRunning.txt").value_or(""), "on");
+  return EqualsNoCase(RequiredLine(kGameRunningFile, "the word On or Off").value_or(""), "on");
 }
 
 void SettingsFiles::WriteGameRunning(bool on) {
-  files_.WriteOneLine(PathOf("GameRunning.txt"), on ? "On" : "Off");
+  files_.WriteOneLine(PathOf(kGameRunningFile), on ? "On" : "Off");
 }
 
 std::string SettingsFiles::PathOf(const std::string& name) const {
-  return settings_.BaseDirectory + "\\" + name;
+  return PlayerPath(files_, name);
 }
 
 std::optional<std::string> SettingsFiles::OptionalLine(const std::string& name) const {
-  if (!files_.FileExistsAt(PathOf(name))) return std::nullopt;
-  auto stream = files_.OpenTextFileChecked(PathOf(name), OpenMode::kRead, false);
-  if (stream->AtEndOfStream()) return std::nullopt;
+  auto stream = files_.OpenPlayerFile(PathOf(name));
+  if (stream == nullptr || stream->AtEndOfStream()) return std::nullopt;
   return stream->ReadLine(name);
 }
 
-std::string SettingsFiles::RequiredLine(const std::string& name,
-                                        const std::string& expected) const {
-  return files_.OpenTextFileChecked(PathOf(name), OpenMode::kRead, false)->ReadLine(expected);
+std::optional<std::string> SettingsFiles::RequiredLine(const std::string& name,
+                                                       const std::string& expected) const {
+  auto stream = files_.OpenPlayerFile(PathOf(name));
+  if (stream == nullptr) return std::nullopt;
+  return stream->ReadLine(expected);
 }
 
 }  // namespace quendle

@@ -9,7 +9,7 @@ class ContentFiles;
 struct Settings;
 
 // The six settings files in the application's folder. Each holds one line; words and file names
-// are compared without regard to case.
+// are compared without regard to case. A file that is there and can't be read is fatal.
 class SettingsFiles {
  public:
   // Both must outlive this object.
@@ -19,7 +19,8 @@ class SettingsFiles {
   // or empty, or another word, gives the default: off, "normal", 32.
   void ReadOptions();
 
-  // Writes the three from the settings; a failed write is fatal.
+  // Writes the three from the settings. As all files written here, one that the disk refuses is
+  // kept in memory and tried again.
   void SaveOptions();
 
   // Sets SafeMode if "GameMode.txt" says "Safe", and never clears it; a missing file is made first.
@@ -33,19 +34,16 @@ class SettingsFiles {
   // clean end, an empty one is fatal.
   bool GameRunningIsOn() const;
 
-  // The same question for the autosave, to be asked before WriteGameRunning. Never fatal: in safe
-  // mode a start gets along without this file, so an empty one counts as a clean end here.
-  bool LastRunEndedInOrder() const;
-
-  // Marks the run as going on ("On") or ended in order ("Off"); a failed write is fatal.
+  // Marks the run as going on ("On") or ended in order ("Off").
   void WriteGameRunning(bool on);
 
  private:
   std::string PathOf(const std::string& name) const;
   // The first line; nothing when the file is missing or empty.
   std::optional<std::string> OptionalLine(const std::string& name) const;
-  // The first line of a file that exists; an empty one is fatal.
-  std::string RequiredLine(const std::string& name, const std::string& expected) const;
+  // The first line; nothing when the file is missing, and an empty one is fatal.
+  std::optional<std::string> RequiredLine(const std::string& name,
+                                          const std::string& expected) const;
 
   ContentFiles& files_;
   Settings& settings_;

@@ -16,17 +16,17 @@
 namespace quendle {
 namespace {
 
-constexpr int kLastPicture = 14;
 constexpr int kMinimisePicture = 7;
 constexpr int kOldestSystem = 5;
 constexpr std::int16_t kSiblingEdition = 1;
-constexpr Rect kTitleButtonSize{0, 0, 28, 28};
+constexpr const char* kOptionsNotSaved =
+    "What was chosen could not be kept: the disk is full, or it may not be written to.";
 
 }  // namespace
 
 TandrelPrompt::TandrelPrompt(FormServices services, Ports& ports, GameStarter& starter,
                              std::int16_t edition)
-    : PictureForm(services, "TandrelPrompt", {420, 470}, kLastPicture),
+    : PictureForm(services, "TandrelPrompt", {420, 470}),
       ports_(ports),
       boxes_(ports.boxes),
       starter_(starter),
@@ -54,6 +54,9 @@ void TandrelPrompt::Load() {
 
 void TandrelPrompt::Unload() {
   SaveOptions();
+  if (services_.files.HasUnsaved()) {
+    boxes_.MessageBox(services_.settings.ProductName, kOptionsNotSaved);
+  }
   throw ProcessEnds{false};
 }
 
@@ -73,40 +76,26 @@ void TandrelPrompt::SetButtonHighlight(std::int16_t index) {
   if (index % 2 != 0) HighlightButton(index);
 }
 
-void TandrelPrompt::OnButtonPress(int index) {
-  if (index >= 13) {
-    services_.system.OpenInShell(services_.settings.WebAddress);
-  } else if (index >= 11) {
-    Unload();
-  } else if (index >= 9) {
-    services_.system.Beep();
-  } else if (index >= 7) {
-    Minimise();
-  } else if (index >= 5) {
-    ShowOptionsDialog();
-  } else if (index >= 3) {
-    ShowPersonalizeDialog();
-  } else if (index >= 1) {
-    btnNormal_Click();
-  }
-}
-
 void TandrelPrompt::BuildForm() {
   const Settings& settings = services_.settings;
   form_.caption = settings.ProductName;
   AddLabel(form_, "Label1", "Please Select an Option...", {18, 13, 306, 41}).font_size =
       kTitleFontSize;
-  AddPicturePair(form_, 1, "play", "Play", {40, 54, 380, 164});
-  AddPicturePair(form_, 3, "personalize", "Personalize", {60, 178, 360, 244});
-  AddPicturePair(form_, 5, "options", "Options", {60, 256, 360, 322});
-  AddPicturePair(form_, 13, "link", settings.ProductName + " on the Web", {110, 336, 310, 376});
+  AddButtons({
+      {1, "play", "Play", {40, 54, 380, 164}, [this] { btnNormal_Click(); }},
+      {3, "personalize", "Personalize", {60, 178, 360, 244}, [this] { ShowPersonalizeDialog(); }},
+      {5, "options", "Options", {60, 256, 360, 322}, [this] { ShowOptionsDialog(); }},
+      {13,
+       "link",
+       settings.ProductName + " on the Web",
+       {110, 336, 310, 376},
+       [this] { services_.system.OpenInShell(services_.settings.WebAddress); }},
+  });
   AddLink(form_, "Label2", settings.WebAddress, {24, 394, 396, 418});
   AddLink(form_, "Label3", settings.SupportAddress, {24, 424, 396, 448});
-  AddPicturePair(form_, 7, "minimise", "Minimise", kTitleButtonSize);
-  AddPicturePair(form_, 9, "maximise", "Maximise", kTitleButtonSize);
-  AddPicturePair(form_, 11, "close", "Close", kTitleButtonSize);
+  AddTitleButtons(kMinimisePicture, [this] { Unload(); });
   PositionTitleButtons(form_, kMinimisePicture);
-  PairButtonPictures(form_, 1, kLastPicture);
+  PairButtonPictures(form_, 1, LastPicture());
   SetButtonHighlight(-1);
   LoadBorders(form_);
   Register();

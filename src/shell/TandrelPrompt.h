@@ -32,7 +32,7 @@ class TandrelPrompt : public PictureForm, public StartUpForm {
   void Load();
 
   // The window is destroyed without being asked to close: saves the options and ends the process.
-  [[noreturn]] void Unload();
+  [[noreturn]] void Unload() override;
 
   void Show() override;
   void btnNormal_Click() override;
@@ -44,13 +44,9 @@ class TandrelPrompt : public PictureForm, public StartUpForm {
 
   SettingsFiles& Files() { return settings_files_; }
 
- protected:
-  void ButtonCommand(int index) override { OnButtonPress(index); }
-
  private:
   void BuildForm();
   void ChooseEdition();
-  void OnButtonPress(int index);
   void EndIfAnotherInstanceRuns();
   void AskAboutOldSystem();
   void AskAfterCrash();

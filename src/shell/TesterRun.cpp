@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/ContentFiles.h"
+#include "base/PlayerFiles.h"
 #include "base/Text.h"
 #include "base/TextStream.h"
 #include "diagnostics/SidecarWriter.h"
@@ -14,13 +15,6 @@
 #include "platform/Ports.h"
 
 namespace quendle {
-namespace {
-
-constexpr const char* kSavedGame = "userdata.txt";
-constexpr const char* kHelpMemory = "HelpSys.txt";
-
-}  // namespace
-
 TesterRun::TesterRun(ObjectWorld& world, TesterOptions options)
     : world_(world), options_(std::move(options)) {}
 
@@ -34,16 +28,15 @@ void TesterRun::Start(const std::shared_ptr<GameLogicLayer>& logic, const std::s
   conditions.content = options_.content_hash ? options_.content_hash() : "";
   auto keep = [&](const std::string& file, const std::string& name) {
     const ContentFiles& files = world_.media.content;
-    std::optional<std::string> bytes =
-        world_.media.ports.files.Read(files.BaseDirectory() + "\\" + file);
+    std::optional<std::string> bytes = world_.media.ports.files.Read(PlayerPath(files, file));
     if (!bytes) return;
     TextReader lines(std::move(*bytes), file);
     SidecarFile& kept = conditions.files.emplace_back();
     kept.name = name;
     while (!lines.AtEndOfStream()) kept.lines.push_back(ToUtf8(lines.ReadLine(file)));
   };
-  keep(saved_game, kSavedGame);
-  keep(kHelpMemory, kHelpMemory);
+  keep(saved_game, kSavedGameFile);
+  keep(kHelpMemoryFile, kHelpMemoryFile);
   sidecar_ = std::make_unique<SidecarWriter>(world_, logic, std::move(conditions));
   tester_ = std::make_shared<IntelliTesterObj>(world_, reference_);
   tester_->SetWatcher(sidecar_.get());

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "media/MediaWorld.h"
+#include "media/MemoryBitmap.h"
 #include "platform/DirectDraw.h"
-#include "platform/Gdi.h"
 
 namespace quendle {
 
@@ -13,18 +13,13 @@ class BoardCanvas {
   // `like` is the context that the new one is made compatible with. `world` must outlive it. What
   // the display refuses stays empty.
   BoardCanvas(MediaWorld& world, ContextHandle like, int width, int height);
-  ~BoardCanvas();
-  BoardCanvas(const BoardCanvas&) = delete;
-  BoardCanvas& operator=(const BoardCanvas&) = delete;
 
   // Nothing asks for the two: the board is seen as its tiles.
-  ContextHandle Context() const { return context_; }
+  ContextHandle Context() const { return board_.Context(); }
   const SurfaceRef& OffScreen() const { return surface_; }
 
  private:
-  MediaWorld& world_;
-  ContextHandle context_ = 0;
-  BitmapHandle bitmap_ = 0;
+  MemoryBitmap board_;
   SurfaceRef surface_;
 };
 

@@ -9,6 +9,7 @@
 #include "base/Text.h"
 #include "media/MediaWorld.h"
 #include "object/ObjectWorld.h"
+#include "subgames/SubgameKinds.h"
 
 namespace quendle {
 
@@ -65,11 +66,6 @@ void CellPlayArea::DecrementLife(std::int16_t n) {
   m_nLives = ToInt16(m_nLives - std::abs(n), "lives");
 }
 
-void CellPlayArea::TakeSelections() {
-  OnMessage(Test::kContains, "select", [this](const std::string& text) { SelectCell(text); });
-  OnMessage(Test::kContains, "acceptedcell", [this](const std::string&) { AcceptCell(); });
-}
-
 void CellPlayArea::SelectCell(const std::string& message) {
   const std::string base = SF_splitLeft(Selected(), "-");
   if (base != Selected()) {
@@ -102,7 +98,7 @@ std::string CellPlayArea::InfoFolder() {
     throw FatalError("play area \"" + ObjectName() +
                      "\" is in no subgame, after which the folder of its cells is named");
   }
-  return "\\info\\" + frame->ObjectName();
+  return FolderOfCells(frame->ObjectName());
 }
 
 void CellPlayArea::Describe(Inspector& inspector) const {

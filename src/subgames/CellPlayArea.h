@@ -32,8 +32,10 @@ class CellPlayArea : public PlayAreaObject, public EnemyFireTarget {
   void StartGame() override;
   void StopGame() override;
   void DropCells() override;
-  // Further rows of the message table: "select" and "acceptedcell".
-  void TakeSelections();
+  // "select" and what follows names the cell that is selected.
+  void SelectCell(const std::string& message) override;
+  // "acceptedcell" takes the selected cell out of the field.
+  void AcceptCell() override;
   // An accepted cell: the shooter takes it out of the play as well.
   virtual void Retire(const std::shared_ptr<CellObject>&) {}
 
@@ -49,12 +51,6 @@ class CellPlayArea : public PlayAreaObject, public EnemyFireTarget {
   std::vector<std::shared_ptr<CellObject>> m_colCells;
   std::int16_t m_nLives = 0;
   std::int16_t m_nFireDelay = kFullFireDelay;
-
- private:
-  // "select" and what follows names the cell that is selected.
-  void SelectCell(const std::string& message);
-  // "acceptedcell" takes the selected cell out of the field.
-  void AcceptCell();
 };
 
 }  // namespace quendle

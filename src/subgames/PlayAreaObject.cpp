@@ -16,22 +16,17 @@
 #include "platform/RandomSource.h"
 #include "platform/TimerService.h"
 #include "script/ActionText.h"
+#include "subgames/PlayAreaVerbs.h"
 #include "subgames/SubgameFiles.h"
+#include "subgames/SubgameKinds.h"
 
 namespace quendle {
 
 PlayAreaObject::PlayAreaObject(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames,
                                SubgameKind kind)
-    : ForwardingObject(world), world_(world), subgames_(std::move(subgames)), kind_(kind) {
-  OnMessage(Test::kWhole, "startgame", [this](const std::string&) { StartGame(); });
-  OnMessage(Test::kContains, "stopgame", [this](const std::string&) { StopGame(); });
-}
+    : ForwardingObject(world), world_(world), subgames_(std::move(subgames)), kind_(kind) {}
 
 PlayAreaObject::~PlayAreaObject() { KillGameTimer(); }
-
-void PlayAreaObject::OnMessage(Test test, std::string_view word, Act act) {
-  rows_.push_back({test, word, std::move(act)});
-}
 
 void PlayAreaObject::LoadObject(const LoadArguments& arguments) {
   LoadArguments inner = arguments;
@@ -92,25 +87,36 @@ void PlayAreaObject::UpdateGameObject(std::int16_t x, std::int16_t y, const Acti
   if (!m_bStopped && game == game_) PlayMouse(x, y, action.Text());
 }
 
-const PlayAreaObject::Row* PlayAreaObject::FindRow(const std::string& message) const {
-  for (const Row& row : rows_) {
-    if (row.test == Test::kWhole ? EqualsNoCase(message, row.word)
-                                 : ContainsNoCase(message, row.word)) {
-      return &row;
-    }
-  }
-  return nullptr;
-}
-
 void PlayAreaObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
                                    bool verifying, bool& result) {
-  const Row* row = FindRow(message);
-  if (row == nullptr) {
+  const PlayAreaVerb verb = PlayAreaVerbOf(kind_, message);
+  if (verb == PlayAreaVerb::kInner) {
     Inner().HandleMessage(message, sender, verifying, result);
     return;
   }
   const MessageWork work(Inner(), message, sender, verifying);
-  if (!verifying) row->act(message);
+  if (!verifying) CarryOut(verb, message);
+}
+
+void PlayAreaObject::CarryOut(PlayAreaVerb verb, const std::string& message) {
+  switch (verb) {
+    case PlayAreaVerb::kStartGame:
+      return StartGame();
+    case PlayAreaVerb::kStopGame:
+      return StopGame();
+    case PlayAreaVerb::kEndGame:
+      return EndGame(false);
+    case PlayAreaVerb::kReplayGame:
+      return PauseForReplay();
+    case PlayAreaVerb::kRestartGame:
+      return RestartGame();
+    case PlayAreaVerb::kSelect:
+      return SelectCell(message);
+    case PlayAreaVerb::kAcceptedCell:
+      return AcceptCell();
+    case PlayAreaVerb::kInner:
+      return;
+  }
 }
 
 void PlayAreaObject::AddChildObject(ObjectRef child) {
@@ -160,7 +166,7 @@ void PlayAreaObject::DropCells() {
 void PlayAreaObject::StartGameTimer(int milliseconds) {
   KillGameTimer();
   const int id = world_.media.ports.timers.SetTimer(
-      Milliseconds(milliseconds), TimerCallbackName(kind_),
+      Milliseconds(milliseconds), RowOf(kind_).timer,
       [subgames = subgames_, kind = kind_](int fired) { OnPlayAreaTimer(*subgames, kind, fired); });
   SetGameUpdateTimerID(ToInt16(id, "timer id"));
   subgames_->CurrentPlayArea(kind_) = weak_from_this();

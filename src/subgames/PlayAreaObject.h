@@ -1,16 +1,16 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "object/ForwardingObject.h"
 #include "subgames/SubgameWorld.h"
 
 namespace quendle {
+
+enum class PlayAreaVerb;
 
 // What the play areas of all arcade games share: the game data's path, the timer, the messages,
 // the start and the end of a game. Its parent is the frame of the subgame.
@@ -47,16 +47,15 @@ class PlayAreaObject : public ForwardingObject,
   void SetGameUpdateTimerID(std::int16_t id);
 
  protected:
-  using Act = std::function<void(const std::string& message)>;
-  enum class Test { kWhole, kContains };
-
-  // A further row of the message table; rows are tried in their order.
-  void OnMessage(Test test, std::string_view word, Act act);
-
   // Reads the game's data (full path).
   virtual void LoadGameData(const std::string& path) = 0;
   virtual void StartGame() = 0;
   virtual void StopGame() = 0;
+  // Verbs that not every kind of game has.
+  virtual void PauseForReplay() {}
+  virtual void RestartGame() {}
+  virtual void SelectCell(const std::string&) {}
+  virtual void AcceptCell() {}
   // Whether an event of this text is for the game.
   virtual bool TakesMouse(const std::string& action) const;
   // The pointer's event, in pixels of the screen, after the cells' scripts had it.
@@ -101,12 +100,7 @@ class PlayAreaObject : public ForwardingObject,
   double TimeOfDay();
 
  private:
-  struct Row {
-    Test test;
-    std::string_view word;
-    Act act;
-  };
-  const Row* FindRow(const std::string& message) const;
+  void CarryOut(PlayAreaVerb verb, const std::string& message);
   std::string StoredGamePath(const LoadArguments& arguments) const;
   void LoadCellFile(const ObjectRef& cell, const std::string& file, const std::string& type,
                     const std::string& name);
@@ -115,7 +109,6 @@ class PlayAreaObject : public ForwardingObject,
   ObjectWorld& world_;
   const std::shared_ptr<SubgameWorld> subgames_;
   const SubgameKind kind_;
-  std::vector<Row> rows_;
   std::vector<ObjectRef> added_;  // never read
 
   std::string timer_id_ = "0";

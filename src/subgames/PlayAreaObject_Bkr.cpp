@@ -7,6 +7,7 @@
 #include "object/ObjectWorld.h"
 #include "subgames/CellObject_BBall.h"
 #include "subgames/CellObject_Blinker.h"
+#include "subgames/SubgameKinds.h"
 
 namespace quendle {
 namespace {
@@ -18,22 +19,18 @@ constexpr std::int16_t kBallStart = 300;
 constexpr std::int16_t kPaddleX = 350;
 constexpr std::int16_t kPaddleY = 550;
 
+// Every sixth brick is of the first kind, every fifth of the others of the second, and so on.
 const char* BrickFile(int i) {
-  if (i % 6 == 0) return "\\cell1data.txt";
-  if (i % 5 == 0) return "\\cell2data.txt";
-  if (i % 4 == 0) return "\\cell3data.txt";
-  if (i % 3 == 0) return "\\cell4data.txt";
-  return "\\cell5data.txt";
+  for (int kind = 0; kind < 4; ++kind) {
+    if (i % (6 - kind) == 0) return kBrickFiles[static_cast<std::size_t>(kind)];
+  }
+  return kBrickFiles.back();
 }
 
 }  // namespace
 
 PlayAreaObject_Bkr::PlayAreaObject_Bkr(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames)
-    : PausablePlayArea(world, std::move(subgames), SubgameKind::kBlinker) {
-  OnMessage(Test::kContains, "replaygame", [this](const std::string&) { PauseForReplay(); });
-  OnMessage(Test::kContains, "restartgame", [this](const std::string&) { LetTicksRun(); });
-  TakeSelections();
-}
+    : PausablePlayArea(world, std::move(subgames), SubgameKind::kBlinker) {}
 
 void PlayAreaObject_Bkr::TurnOn() {
   PrepareGame();
@@ -52,13 +49,13 @@ void PlayAreaObject_Bkr::BuildPlayField() {
   const std::string folder = InfoFolder();
   for (int i = 1; i <= kBricks; ++i) AddBrick(folder, i);
 
-  m_ptrBall = LoadCell<CellObject_BBall>(folder + "\\balldata.txt", "shot", "shot1");
+  m_ptrBall = LoadCell<CellObject_BBall>(folder + "\\" + kBallFile, "shot", "shot1");
   AdoptCell(m_ptrBall);
   m_ptrBall->Setxpos(kBallStart);
   m_ptrBall->Setypos(kBallStart);
   m_ptrBall->CellObject::TurnOn();
 
-  m_ptrPaddle = LoadCell<CellObject_Blinker>(folder + "\\paddledata.txt", "paddle", "paddle1");
+  m_ptrPaddle = LoadCell<CellObject_Blinker>(folder + "\\" + kPaddleFile, "paddle", "paddle1");
   m_ptrPaddle->SetGoodCell(true);
   AdoptCell(m_ptrPaddle);
   // Its goal is still 0,0: the first tick takes it into the corner, until the pointer moves.
@@ -68,8 +65,8 @@ void PlayAreaObject_Bkr::BuildPlayField() {
 }
 
 void PlayAreaObject_Bkr::AddBrick(const std::string& folder, int i) {
-  auto brick =
-      LoadCell<CellObject_Blinker>(folder + BrickFile(i), "cell1", "cell" + std::to_string(i));
+  auto brick = LoadCell<CellObject_Blinker>(folder + "\\" + BrickFile(i), "cell1",
+                                            "cell" + std::to_string(i));
   AddCell(brick);
   // Twenty places for thirty-two bricks: some stand under others.
   brick->Setxpos(ToInt16(i % 3 * 50 + 100, "xpos of a brick"));

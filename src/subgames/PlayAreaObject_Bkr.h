@@ -21,6 +21,8 @@ class PlayAreaObject_Bkr : public PausablePlayArea {
   void Describe(Inspector& inspector) const override;
 
  protected:
+  void PauseForReplay() override;
+  void RestartGame() override { LetTicksRun(); }
   void PlayMouse(std::int16_t x, std::int16_t y, const std::string& action) override;
   void DropCells() override;
 
@@ -30,7 +32,6 @@ class PlayAreaObject_Bkr : public PausablePlayArea {
   // Lets bricks vanish where the ball is; true if any was left.
   bool StrikeBricks(CellObject_BBall& ball);
   void LoseBall(CellObject_BBall& ball);
-  void PauseForReplay();
 
   // In m_colCells stand the bricks alone.
   std::shared_ptr<CellObject_BBall> m_ptrBall;

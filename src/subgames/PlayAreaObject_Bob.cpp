@@ -8,6 +8,7 @@
 #include "object/ObjectWorld.h"
 #include "subgames/CellObject_Bobbler.h"
 #include "subgames/Field.h"
+#include "subgames/SubgameKinds.h"
 
 namespace quendle {
 namespace {
@@ -18,13 +19,12 @@ constexpr std::int16_t kManyCells = 40;  // from here on no bad cells come
 constexpr std::int16_t kLives = 5;
 constexpr int kTick = 75;  // milliseconds, at every difficulty
 
+// Every twelfth cell is of the first kind, every tenth of the others of the second, and so on.
 const char* BadCellFile(int i) {
-  if (i % 12 == 0) return "\\cell1data.txt";
-  if (i % 10 == 0) return "\\cell2data.txt";
-  if (i % 8 == 0) return "\\cell3data.txt";
-  if (i % 6 == 0) return "\\cell4data.txt";
-  if (i % 4 == 0) return "\\cell5data.txt";
-  return "\\cell6data.txt";
+  for (int kind = 0; kind < 5; ++kind) {
+    if (i % (12 - 2 * kind) == 0) return kBadCellFiles[static_cast<std::size_t>(kind)];
+  }
+  return kBadCellFiles.back();
 }
 
 // Types of this game are compared exactly.
@@ -37,7 +37,6 @@ PlayAreaObject_Bob::PlayAreaObject_Bob(ObjectWorld& world, std::shared_ptr<Subga
     : PausablePlayArea(world, std::move(subgames), SubgameKind::kBobbler) {
   // Once for all games of this object: the next one goes on with what is left.
   m_nLives = kLives;
-  TakeSelections();
 }
 
 void PlayAreaObject_Bob::TurnOn() {
@@ -59,7 +58,7 @@ void PlayAreaObject_Bob::BuildPlayField() {
 
 void PlayAreaObject_Bob::AddBobbler(int i, bool odd_is_good) {
   const bool good = odd_is_good && i % 2 != 0;
-  auto cell = LoadCell<CellObject_Bobbler>(folder_ + (good ? "\\gooddata.txt" : BadCellFile(i)),
+  auto cell = LoadCell<CellObject_Bobbler>(folder_ + "\\" + (good ? kGoodCellFile : BadCellFile(i)),
                                            good ? "good" : "bad", "cell" + std::to_string(i));
   AddCell(cell);
   cell->Setxpos(ToInt16(kFieldWidth * Rnd(), "xpos of a cell"));

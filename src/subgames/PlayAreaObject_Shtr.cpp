@@ -12,6 +12,7 @@
 #include "subgames/CellObject_Shooter.h"
 #include "subgames/CellObject_Shot.h"
 #include "subgames/Field.h"
+#include "subgames/SubgameKinds.h"
 
 namespace quendle {
 namespace {
@@ -22,7 +23,6 @@ constexpr std::int16_t kPlayerX = 400;
 constexpr std::int16_t kPlayerY = 535;
 constexpr int kTick = 60;      // milliseconds
 constexpr int kHardTick = 50;  // the only rule of any game that knows the difficulty
-constexpr const char* kFormationFile = "\\info\\shooterdata.txt";
 
 std::shared_ptr<CellObject_Shot> AsShot(const std::shared_ptr<CellObject>& cell) {
   return std::dynamic_pointer_cast<CellObject_Shot>(cell);
@@ -36,9 +36,7 @@ std::shared_ptr<CellObject_Shooter> AsEnemy(const std::shared_ptr<CellObject>& c
 }  // namespace
 
 PlayAreaObject_Shtr::PlayAreaObject_Shtr(ObjectWorld& world, std::shared_ptr<SubgameWorld> subgames)
-    : CellPlayArea(world, std::move(subgames), SubgameKind::kShooter) {
-  TakeSelections();
-}
+    : CellPlayArea(world, std::move(subgames), SubgameKind::kShooter) {}
 
 void PlayAreaObject_Shtr::LoadGameData(const std::string& path) {
   CellPlayArea::LoadGameData(path);

@@ -9,6 +9,7 @@
 #include "media/MediaWorld.h"
 #include "object/ObjectWorld.h"
 #include "subgames/Field.h"
+#include "subgames/SubgameKinds.h"
 
 namespace quendle {
 namespace {
@@ -28,9 +29,7 @@ constexpr double kFlyDistance = 100;
 
 PlayAreaObject_Square::PlayAreaObject_Square(ObjectWorld& world,
                                              std::shared_ptr<SubgameWorld> subgames)
-    : PlayAreaObject(world, std::move(subgames), SubgameKind::kSquare) {
-  OnMessage(Test::kWhole, "endgame", [this](const std::string&) { EndGame(false); });
-}
+    : PlayAreaObject(world, std::move(subgames), SubgameKind::kSquare) {}
 
 void PlayAreaObject_Square::LoadObject(const LoadArguments& arguments) {
   PlayAreaObject::LoadObject(arguments);

@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "object/MessageWork.h"
+#include "subgames/PointVerbs.h"
 
 namespace quendle {
 namespace {
@@ -31,20 +32,25 @@ const std::string& TokenAt(const std::vector<std::string>& tokens, std::size_t i
 
 void PointSystemObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
                                       bool verifying, bool& result) {
-  const Tokens tokens = SplitAtEach(message);
-  const bool add_class = EqualsNoCase(tokens[0], "addclass");
-  const bool add = EqualsNoCase(tokens[0], "addpoints");
-  const bool remove = EqualsNoCase(tokens[0], "removepoints");
-  if (!add_class && !add && !remove) {
+  const PointVerb verb = PointVerbOf(message);
+  if (verb == PointVerb::kInner) {
     Inner().HandleMessage(message, sender, verifying, result);
     return;
   }
   const MessageWork work(Inner(), message, sender, verifying);
-  if (verifying) return;
-  if (add_class) {
-    AddClass(tokens);
-  } else {
-    ChangePoints(tokens, add ? 1 : -1);
+  if (!verifying) CarryOut(verb, SplitAtEach(message));
+}
+
+void PointSystemObject::CarryOut(PointVerb verb, const Tokens& tokens) {
+  switch (verb) {
+    case PointVerb::kAddClass:
+      return AddClass(tokens);
+    case PointVerb::kAddPoints:
+      return ChangePoints(tokens, 1);
+    case PointVerb::kRemovePoints:
+      return ChangePoints(tokens, -1);
+    case PointVerb::kInner:
+      return;
   }
 }
 

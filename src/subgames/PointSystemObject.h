@@ -9,6 +9,8 @@
 
 namespace quendle {
 
+enum class PointVerb;
+
 // Counts points by name: "addclass_NAME", "addpoints_NAME_VALUE...", "removepoints_NAME_VALUE...".
 // Nothing in the game reads them back; tools do.
 class PointSystemObject : public ForwardingObject {
@@ -26,6 +28,7 @@ class PointSystemObject : public ForwardingObject {
 
  private:
   using Tokens = std::vector<std::string>;
+  void CarryOut(PointVerb verb, const Tokens& tokens);
   void AddClass(const Tokens& tokens);
   void ChangePoints(const Tokens& tokens, int sign);
   void ChangeItems(const std::string& name, std::int16_t value, int sign);

@@ -7,35 +7,38 @@
 #include "subgames/PlayAreaObject_Bob.h"
 #include "subgames/PlayAreaObject_Shtr.h"
 #include "subgames/PlayAreaObject_Square.h"
-#include "subgames/PointSystemObject.h"
-#include "subgames/SubgameObject.h"
+#include "subgames/SubgameKinds.h"
 #include "subgames/SubgameWorld.h"
 
 namespace quendle {
 namespace {
 
-template <class Class>
-void Register(ObjectFactory& factory, const char* word) {
-  factory.Register(word, [](ObjectWorld& world) { return std::make_shared<Class>(world); });
+template <class Area>
+ObjectFactory::Maker MakerOf(const std::shared_ptr<SubgameWorld>& subgames) {
+  return [subgames](ObjectWorld& world) { return std::make_shared<Area>(world, subgames); };
 }
 
-template <class Area>
-void RegisterArea(ObjectFactory& factory, const char* word,
-                  const std::shared_ptr<SubgameWorld>& subgames) {
-  factory.Register(
-      word, [subgames](ObjectWorld& world) { return std::make_shared<Area>(world, subgames); });
+ObjectFactory::Maker AreaMaker(SubgameKind kind, const std::shared_ptr<SubgameWorld>& subgames) {
+  switch (kind) {
+    case SubgameKind::kSquare:
+      return MakerOf<PlayAreaObject_Square>(subgames);
+    case SubgameKind::kShooter:
+      return MakerOf<PlayAreaObject_Shtr>(subgames);
+    case SubgameKind::kBlinker:
+      return MakerOf<PlayAreaObject_Bkr>(subgames);
+    case SubgameKind::kBobbler:
+      return MakerOf<PlayAreaObject_Bob>(subgames);
+  }
+  return {};
 }
 
 }  // namespace
 
-void RegisterSubgameClasses(ObjectFactory& factory) {
+void RegisterPlayAreas(ObjectFactory& factory) {
   auto subgames = std::make_shared<SubgameWorld>();
-  Register<SubgameObject>(factory, "subgame");
-  Register<PointSystemObject>(factory, "pointsystem");
-  RegisterArea<PlayAreaObject_Square>(factory, "playareasquare", subgames);
-  RegisterArea<PlayAreaObject_Shtr>(factory, "playareashooter", subgames);
-  RegisterArea<PlayAreaObject_Bkr>(factory, "playareablinker", subgames);
-  RegisterArea<PlayAreaObject_Bob>(factory, "playareabobbler", subgames);
+  for (const SubgameRow& row : Subgames()) {
+    factory.Register(std::string(row.type_word), AreaMaker(row.kind, subgames));
+  }
 }
 
 }  // namespace quendle

@@ -4,8 +4,8 @@ namespace quendle {
 
 class ObjectFactory;
 
-// Makes the type words of the arcade games known. All play areas that the factory makes share one
+// Makes the type words of the play areas known. All play areas that the factory makes share one
 // SubgameWorld, which lives as long as the factory or one of them.
-void RegisterSubgameClasses(ObjectFactory& factory);
+void RegisterPlayAreas(ObjectFactory& factory);
 
 }  // namespace quendle

@@ -1,21 +1,22 @@
 #include "subgames/SubgameObject.h"
 
-#include "base/Text.h"
 #include "object/MessageWork.h"
+#include "subgames/FrameVerbs.h"
 
 namespace quendle {
 
 void SubgameObject::HandleMessage(const std::string& message, GameObjectInterface* sender,
                                   bool verifying, bool& result) {
-  if (ContainsNoCase(message, "scorevalue")) {
-    const MessageWork work(Inner(), message, sender, verifying);
-    if (!verifying) Inner().NotifyChild(message, "menu");
-  } else if (ContainsNoCase(message, "done") || ContainsNoCase(message, "won") ||
-             ContainsNoCase(message, "lost")) {
-    const MessageWork work(Inner(), message, sender, verifying);
-    Inner().NotifyParent(message, verifying, result);
-  } else {
+  const FrameVerb verb = FrameVerbOf(message);
+  if (verb == FrameVerb::kInner) {
     Inner().HandleMessage(message, sender, verifying, result);
+    return;
+  }
+  const MessageWork work(Inner(), message, sender, verifying);
+  if (verb == FrameVerb::kClimb) {
+    Inner().NotifyParent(message, verifying, result);
+  } else if (!verifying) {
+    Inner().NotifyChild(message, "menu");
   }
 }
 

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 #include "base/FatalError.h"
 #include "base/Text.h"

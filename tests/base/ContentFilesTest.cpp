@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "backends/files/MemoryFileSystem.h"
+#include "base/EventSink.h"
 #include "base/Settings.h"
 #include "platform/Faults.h"
 
@@ -55,6 +56,15 @@ TEST_F(ContentFilesTest, AFileIsReadLineByLine) {
   EXPECT_EQ(stream->Place().line, 3);
 }
 
+TEST_F(ContentFilesTest, ATextOfMoreThanFourMillionBytesIsFatal) {
+  disk_.Put("\\Info\\door.txt", std::string(4'000'000, '0'));
+  EXPECT_NO_THROW(files_.OpenTextFileChecked(door_, OpenMode::kRead, false));
+  disk_.Put("\\Info\\door.txt", std::string(4'000'001, '0'));
+  EXPECT_EQ(
+      FaultOf([&] { files_.OpenTextFileChecked(door_, OpenMode::kRead, false); }).what,
+      "Info\\door.txt: the file has more than 4 million bytes: no text of a game is that long");
+}
+
 TEST_F(ContentFilesTest, AMissingFileIsFatalWithExactlyTheBoxThatNamesIt) {
   for (OpenMode mode : {OpenMode::kRead, OpenMode::kWrite}) {
     Fault fault = FaultOf([&] { files_.OpenTextFileChecked(door_, mode, false); });
@@ -64,11 +74,22 @@ TEST_F(ContentFilesTest, AMissingFileIsFatalWithExactlyTheBoxThatNamesIt) {
   EXPECT_TRUE(disk_.Paths().empty());
 }
 
-TEST_F(ContentFilesTest, AFileThatCannotBeReadIsFatalLikeAMissingOne) {
+TEST_F(ContentFilesTest, AFileThatCannotBeReadIsFatalWithTheReason) {
   disk_.Put("\\Info\\door.txt", "one");
   faults_.Plan("read", 0, 1, false);
   EXPECT_EQ(FaultOf([&] { files_.OpenTextFileChecked(door_, OpenMode::kRead, false); }).box,
-            "File C:\\Clinic\\Info\\door.txt not found");
+            "Info\\door.txt: the file can't be read: Input/output error");
+}
+
+TEST_F(ContentFilesTest, AFileOfThePlayerThatCannotBeReadIsNotTakenForAMissingOne) {
+  EXPECT_EQ(files_.OpenPlayerFile(door_), nullptr);
+  EXPECT_EQ(files_.ReadPlayerFile(door_), std::nullopt);
+  disk_.Put("\\Info\\door.txt", "one");
+  EXPECT_EQ(files_.ReadPlayerFile(door_), "one");
+  faults_.Plan("read", 0, 1, false);
+  EXPECT_EQ(FaultOf([&] { files_.OpenPlayerFile(door_); }).box,
+            "The file Info\\door.txt can't be opened at the moment (Input/output error).\n"
+            "Nothing was changed. Please start the game again later.");
 }
 
 TEST_F(ContentFilesTest, AnUnknownTokenIsOrdinaryTextAndFailsAsAMissingFile) {
@@ -135,7 +156,6 @@ TEST_F(ContentFilesTest, AFailedWriteIsFatalAndLeavesTheOldFile) {
   auto stream = files_.OpenTextFileChecked(door_, OpenMode::kWrite, true);
   stream->WriteLine("new");
   EXPECT_EQ(FaultOf([&] { stream->Close(); }).what, wanted);
-  EXPECT_EQ(FaultOf([&] { files_.WriteOneLine(door_, "new"); }).what, wanted);
   EXPECT_EQ(FaultOf([&] { files_.CopyFile("C:\\Clinic\\Info\\from.txt", door_); }).what, wanted);
   EXPECT_EQ(disk_.Get("\\Info\\door.txt"), "old");
 }
@@ -152,6 +172,56 @@ TEST_F(ContentFilesTest, AFileThatCannotBeDeletedIsFatal) {
   faults_.Plan("remove", 0, 1, false);
   EXPECT_EQ(FaultOf([&] { files_.DeleteFileIfPresent(door_); }).what,
             "Info\\door.txt: the file can't be deleted");
+}
+
+TEST_F(ContentFilesTest, WhatTheDiskRefusesIsKeptReadAndTriedAgain) {
+  disk_.Put("\\Info\\door.txt", "old");
+  faults_.Plan("write", 0, 0, false);
+  files_.WriteOneLine(door_, "new");
+  EXPECT_TRUE(files_.HasUnsaved());
+  EXPECT_EQ(*files_.Read(door_), "new\r\n");
+  EXPECT_EQ(files_.OpenTextFileChecked(door_, OpenMode::kRead, false)->ReadLine("a line"), "new");
+  EXPECT_EQ(disk_.Get("\\Info\\door.txt"), "old");
+  EXPECT_FALSE(files_.TryWrite("C:\\Clinic\\other.txt", "other"));
+  faults_.Plan("write", 0, 1, false);
+  faults_.Fails("write");
+  EXPECT_TRUE(files_.TryWrite("C:\\Clinic\\other.txt", "other"));
+  EXPECT_EQ(disk_.Get("\\Info\\door.txt"), "new\r\n");
+  EXPECT_FALSE(files_.HasUnsaved());
+}
+
+TEST_F(ContentFilesTest, WhatIsKeptCanBeDeletedAndReplaced) {
+  faults_.Plan("write", 0, 0, false);
+  files_.WriteOneLine(door_, "one");
+  files_.WriteOneLine("c:\\clinic\\INFO\\Door.txt", "two");
+  EXPECT_EQ(*files_.Read(door_), "two\r\n");
+  files_.DeleteFileIfPresent(door_);
+  EXPECT_FALSE(files_.HasUnsaved());
+  EXPECT_FALSE(files_.FileExistsAt(door_));
+}
+
+class KeptLines : public EventSink {
+ public:
+  void LogEvent(std::string_view message, int, std::string_view) override {
+    lines.emplace_back(message);
+  }
+  std::vector<std::string> lines;
+};
+
+TEST_F(ContentFilesTest, TheLogIsToldTheReasonAlsoOfWhatWentWrongBeforeIt) {
+  KeptLines log;
+  disk_.Put("\\Info\\door.txt", "old");
+  faults_.Plan("write", 0, 0, false);
+  faults_.Plan("remove", 0, 0, false);
+  files_.WriteOneLine("C:\\Clinic\\a.txt", "a");
+  files_.SetLog(&log);
+  files_.TryDelete(door_);
+  faults_.Plan("read", 0, 1, false);
+  files_.Read(door_);
+  EXPECT_EQ(log.lines,
+            (std::vector<std::string>{"a.txt can't be written: Input/output error",
+                                      "Info\\door.txt can't be deleted: Input/output error",
+                                      "Info\\door.txt can't be read: Input/output error"}));
 }
 
 TEST_F(ContentFilesTest, WriteOneLineReplacesTheFile) {

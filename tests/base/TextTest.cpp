@@ -110,5 +110,34 @@ TEST(ToUtf8, TurnsWindows1252IntoUtf8) {
   EXPECT_EQ(ToUtf8("\x81"), "\xC2\x81");
 }
 
+TEST(FromUtf8, TakesBackWhatToUtf8Gives) {
+  std::string all;
+  for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
+  EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
+  EXPECT_EQ(FromUtf8LeavingOut(ToUtf8(all)), all);
+}
+
+TEST(FromUtf8, RefusesWhatHasNoPlaceInTheEightBitSet) {
+  EXPECT_EQ(FromUtf8("a \xE2\x98\x83"), std::nullopt) << "a snowman";
+  EXPECT_EQ(FromUtf8("\xF0\x9F\x90\xB1"), std::nullopt) << "a cat, of four bytes";
+  EXPECT_EQ(FromUtf8("\xC2\x80"), std::nullopt) << "0x80 is the euro sign";
+}
+
+TEST(FromUtf8, RefusesBytesThatAreNoUtf8) {
+  EXPECT_EQ(FromUtf8("K\xE4tzchen"), std::nullopt);
+  EXPECT_EQ(FromUtf8("a\xC3"), std::nullopt) << "cut off";
+  EXPECT_EQ(FromUtf8("\xE2\x82"), std::nullopt) << "cut off";
+  EXPECT_EQ(FromUtf8("\xE2\x82q"), std::nullopt);
+  EXPECT_EQ(FromUtf8("\xA9"), std::nullopt) << "nothing leads it";
+  EXPECT_EQ(FromUtf8("\xC1\xA9"), std::nullopt) << "longer than it needs";
+  EXPECT_EQ(FromUtf8("\xE0\x83\xA9"), std::nullopt) << "longer than it needs";
+}
+
+TEST(FromUtf8LeavingOut, KeepsAllOthers) {
+  EXPECT_EQ(FromUtf8LeavingOut("\xC5\xA0ime \xE2\x82\xAC \xE2\x80\x99"), "\x8Aime \x80 \x92");
+  EXPECT_EQ(FromUtf8LeavingOut("a \xF0\x9F\x90\xB1 z \xE2\x98\x83 y"), "a  z  y");
+  EXPECT_EQ(FromUtf8LeavingOut("a\xE2\x82q\xC3"), "aq");
+}
+
 }  // namespace
 }  // namespace quendle

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <memory>
+
 #include "base/TimerQueue.h"
 
 #include <gtest/gtest.h>

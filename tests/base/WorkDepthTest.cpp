@@ -1,6 +1,11 @@
+#include <new>
+#include <utility>
+
 #include "base/WorkDepth.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 #include "base/ProcessEnds.h"
 
@@ -52,15 +57,100 @@ TEST(WorkDepth, TakesTwoHundredLevels) {
 }
 
 TEST(WorkDepth, OneLevelMoreIsFatalAndNamesTheWork) {
-  const std::string front = "more than 200 levels deep: the content goes round in circles at ";
-  const std::pair<Work, std::string> nouns[] = {{Work::kMessage, "message"},
-                                                {Work::kScript, "script line"},
-                                                {Work::kLoad, "file"},
-                                                {Work::kTreeWalk, "walk over the tree"}};
+  const std::string circles = "goes round in circles at ";
+  const std::pair<Work, std::string> nouns[] = {
+      {Work::kMessage, circles + "message"},
+      {Work::kScript, circles + "script line"},
+      {Work::kObject, circles + "object file"},
+      {Work::kTreeWalk, circles + "walk over the tree"},
+      {Work::kLoad, "is nested too deep at file"},
+      {Work::kBlock, "is nested too deep at script line"}};
   for (const auto& [work, noun] : nouns) {
     WorkDepth depth;
-    EXPECT_EQ(FaultAtDepth(depth, 201, work, "ping"), front + noun + " \"ping\"");
+    EXPECT_EQ(FaultAtDepth(depth, 201, work, "ping"),
+              "more than 200 levels deep: the content " + noun + " \"ping\"");
     EXPECT_EQ(depth.Depth(), 0) << "the count is right again after the fault";
+  }
+}
+
+// Each level of its own text.
+void NestNamed(WorkDepth& depth, int levels) {
+  const std::string text = "x" + std::to_string(levels);
+  DepthGuard guard(depth, Work::kMessage, text);
+  if (levels > 1) NestNamed(depth, levels - 1);
+}
+
+TEST(WorkDepth, WhatOnlyGoesDeepIsNotCalledACircle) {
+  WorkDepth depth;
+  try {
+    NestNamed(depth, 201);
+    FAIL();
+  } catch (const FatalError& error) {
+    EXPECT_STREQ(error.what(),
+                 "more than 200 levels deep: the content is nested too deep at message \"x1\"");
+  }
+}
+
+TEST(WorkDepth, LevelsOfOneKindHaveALimitOfTheirOwn) {
+  WorkDepth depth;
+  const DepthGuard hall(depth, Work::kObject, "hall.txt");
+  const DepthGuard walk(depth, Work::kTreeWalk, "hall");
+  const DepthGuard door(depth, Work::kObject, "door.txt");
+  EXPECT_NO_THROW(door.KeepWithin(2, "objects"));
+  const DepthGuard knob(depth, Work::kObject, "knob.txt");
+  try {
+    knob.KeepWithin(2, "objects");
+    FAIL();
+  } catch (const FatalError& error) {
+    EXPECT_STREQ(error.what(),
+                 "more than 2 objects inside one another: the content is nested too "
+                 "deep at object file \"knob.txt\"");
+  }
+}
+
+std::string FaultAfter(WorkDepth& depth, Work work, int times) {
+  try {
+    DepthGuard event(depth, Work::kMessage, "ring");
+    DepthGuard hall(depth, Work::kScript, "mtp hall");
+    for (int i = 0; i < times; ++i) DepthGuard piece(depth, work, "ping");
+  } catch (const FatalError& error) {
+    return error.what();
+  }
+  return "no fault";
+}
+
+TEST(WorkDepth, AnEventThatMultipliesIsFatalAndNamesItsChain) {
+  const int most = WorkDepth::MostOf(Work::kScript);
+  WorkDepth depth;
+  EXPECT_EQ(FaultAfter(depth, Work::kScript, most - 1), "no fault");
+  EXPECT_EQ(FaultAfter(depth, Work::kScript, most),
+            "more than " + std::to_string(most) +
+                " script lines in one event: the content multiplies at mtp hall > ping");
+  EXPECT_EQ(depth.Depth(), 0);
+}
+
+TEST(WorkDepth, EachOutermostLevelBeginsANewCountButALineAlone) {
+  const int most = WorkDepth::MostOf(Work::kScript);
+  WorkDepth depth;
+  for (int i = 0; i < most; ++i) DepthGuard line(depth, Work::kScript, "change open");
+  EXPECT_THROW(DepthGuard(depth, Work::kScript, "change open"), FatalError);
+  { DepthGuard walk(depth, Work::kTreeWalk, "draw"); }
+  EXPECT_NO_THROW(DepthGuard(depth, Work::kScript, "change open"));
+}
+
+TEST(WorkDepth, ALongChainIsToldByItsEnds) {
+  WorkDepth depth;
+  const std::function<void(int)> nest = [&](int level) {
+    const std::string text = std::to_string(level);
+    DepthGuard line(depth, Work::kScript, text);
+    if (level < 9) return nest(level + 1);
+    while (true) DepthGuard last(depth, Work::kScript, "x");
+  };
+  try {
+    nest(1);
+  } catch (const FatalError& error) {
+    const std::string text = error.what();
+    EXPECT_EQ(text.substr(text.find(" at ")), " at 1 > 2 > 3 > ... > 7 > 8 > 9 > x");
   }
 }
 

@@ -7,6 +7,7 @@
 #include "backends/files/MemoryFileSystem.h"
 #include "backends/headless/HeadlessFormHost.h"
 #include "base/ContentFiles.h"
+#include "base/ProcessEnds.h"
 #include "base/Settings.h"
 #include "dialogs/FormServices.h"
 #include "dialogs/StartUpForm.h"
@@ -37,6 +38,10 @@ class RecordingPrompt : public StartUpForm {
  public:
   void Show() override { calls.push_back("Show"); }
   void btnNormal_Click() override { calls.push_back("btnNormal_Click"); }
+  [[noreturn]] void Unload() override {
+    calls.push_back("Unload");
+    throw ProcessEnds{false};
+  }
   void SaveOptions() override { calls.push_back("SaveOptions"); }
 
   std::vector<std::string> calls;

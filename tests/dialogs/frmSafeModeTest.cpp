@@ -49,6 +49,14 @@ TEST_F(frmSafeModeTest, SafeModeIsSetAndReplacesTheFile) {
   EXPECT_EQ(prompt.calls, std::vector<std::string>{"Show"});
 }
 
+TEST_F(frmSafeModeTest, ASystemThatEndsTheProgramAnswersNothing) {
+  host.Press("optSafe");
+  EXPECT_THROW(host.EndProgram(), ProcessEnds);
+  EXPECT_FALSE(settings.SafeMode);
+  EXPECT_EQ(File("GameMode.txt"), "Normal\r\n");
+  EXPECT_EQ(prompt.calls, std::vector<std::string>{"Unload"});
+}
+
 TEST_F(frmSafeModeTest, ClosingIsOk) {
   for (int way : {7, 8, 0}) {
     settings.SafeMode = false;

@@ -296,13 +296,33 @@ TEST_F(GameLogicLayerTest, HelpThatWasGivenIsReadBackInItsOrder) {
   EXPECT_EQ(Help(), "01010");
 }
 
-TEST_F(GameLogicLayerTest, ADamagedHelpFileIsFatalAndNamesItsLine) {
-  for (const auto& [text, line] :
-       {std::pair{"True\nmaybe\n", "HelpSys.txt:2: "}, std::pair{"True\nTrue\n", "HelpSys.txt:"}}) {
+TEST_F(GameLogicLayerTest, ADamagedHelpFileIsForgottenAndLogged) {
+  for (const char* text : {"True\nmaybe\nTrue\nTrue\nTrue\n", "True\nTrue\n", ""}) {
     LogicBench bench;
     bench.files.Put("\\HelpSys.txt", text);
-    EXPECT_THAT(Fault([&] { bench.Start(); }), testing::StartsWith(line));
+    bench.Start();
+    EXPECT_EQ(bench.Help(), "00000") << text;
+    EXPECT_THAT(bench.log.lines, Contains(HasSubstr("HelpSys.txt is damaged"))) << text;
+    bench.logic->TurnOff();
+    EXPECT_EQ(bench.File("\\HelpSys.txt"), "False\r\nFalse\r\nFalse\r\nFalse\r\nFalse\r\n");
   }
+}
+
+TEST_F(GameLogicLayerTest, AHelpFileThatCannotBeReadIsNotOverwritten) {
+  const std::string given = "True\nTrue\nTrue\nTrue\nTrue\n";
+  files.Put("\\HelpSys.txt", given);
+  files.Record(true);
+  bool refused = false;
+  faults.Watch([&](std::string_view operation) {
+    const auto& operations = files.Operations();
+    refused = operation == "read" && operations.back().path.ends_with("HelpSys.txt");
+    return refused ? Faults::Kind::kFail : Faults::Kind::kNone;
+  });
+  Start();
+  EXPECT_EQ(Help(), "00000");
+  faults.Watch(nullptr);
+  logic->TurnOff();
+  EXPECT_EQ(File("\\HelpSys.txt"), given);
 }
 
 TEST_F(GameLogicLayerTest, TheNextRunRemembersWhereEverythingWas) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <tuple>
 
@@ -238,6 +239,21 @@ TEST_F(SurfacePicture, AGlobalPictureIsSharedAndOutlivesTheObject) {
   picture_.Release();
   EXPECT_EQ(picture_.DirectDrawingSurface(), nullptr);
   EXPECT_EQ(world_.FindGlobalPicture("sky"), sky);
+}
+
+TEST_F(SurfacePicture, AGlobalPictureGetsNoColourKey) {
+  StartDirectX();
+  SurfaceRef sky = platform_.direct_draw.CreateSurface(3, 2);
+  world_.PictureRegistry.Add({"Sky", sky}, "Sky");
+  picture_.LoadPicture("globalpicture_sky");
+  EXPECT_EQ(picture_.DrawFrameDirectX(*world_.off_screen_surface, {0, 0, 3, 2, 0, 0}),
+            DrawStatus::kFailed)
+      << "a copy by key needs one";
+  ASSERT_EQ(sky->SetColorKey(kColorKeySourceBlt, 5, 5), DrawStatus::kOk);
+  picture_.LoadPicture("globalpicture_sky");
+  EXPECT_EQ(picture_.DrawFrameDirectX(*world_.off_screen_surface, {0, 0, 3, 2, 0, 0}),
+            DrawStatus::kOk)
+      << "whoever registered it has given it";
 }
 
 TEST_F(SurfacePicture, AnUnknownGlobalPictureDrawsNothing) {

@@ -72,6 +72,24 @@ TEST_F(SoundStateTest, AMissingFileIsSilentInEverything) {
   EXPECT_TRUE(graphs_.made.empty());
 }
 
+TEST_F(SoundStateTest, AMissingFileIsSilentAlsoWhileAnotherSoundOfItsParentRings) {
+  auto missing = Shared("C:\\none.wma"), ringing = Shared("C:\\a.wma");
+  ringing->PlaySound();
+  EXPECT_TRUE(ringing->IsPlaying());
+  EXPECT_FALSE(missing->IsPlaying());
+  missing->Pause();
+  missing->SetPosition(5);
+  missing->SetRate(2);
+  missing->SetVolume(-100);
+  missing->StopSound();
+  missing->PlaySound();
+  EXPECT_TRUE(ringing->IsPlaying()) << "nothing of it reaches the player that they share";
+  EXPECT_EQ(graphs_.Last().calls, std::vector<std::string>{"Run"});
+  EXPECT_EQ(graphs_.Last().position, 0);
+  EXPECT_EQ(graphs_.Last().rate, 1);
+  EXPECT_EQ(graphs_.Last().volume, -1);
+}
+
 TEST_F(SoundStateTest, OnlyThePreloadFlagLoadsAtOnce) {
   auto lazy = Own("C:\\a.wma");
   EXPECT_FALSE(lazy->Loaded());

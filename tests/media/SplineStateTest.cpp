@@ -85,6 +85,15 @@ TEST(SplineState, ASlopeMovesYByItsShare) {
   EXPECT_TRUE(spline.IsSplineDone());
 }
 
+TEST(SplineState, TheSlopeIsTakenAgainstTheRoundedWidthOfItsSegment) {
+  SplineState wide = Path("no", "10", "0 10.4", "0 100");
+  EXPECT_EQ(Steps(wide, 1), (Points{{10, 100}})) << "10.4 counts as 10";
+  SplineState tie = Path("no", "10", "0 11.5", "0 120");
+  EXPECT_EQ(Steps(tie, 1), (Points{{10, 100}})) << "11.5 counts as 12";
+  SplineState narrow = Path("no", "5", "0 0.5", "0 30");
+  EXPECT_EQ(Steps(narrow, 1), (Points{{0, 5}})) << "0.5 counts as none: upright";
+}
+
 TEST(SplineState, PositionsAreRoundedHalfToEvenAndTheExactOnesGoOn) {
   SplineState spline = Path("no", "1", "0 8", "0 4");
   EXPECT_EQ(Steps(spline, 4), (Points{{1, 0}, {2, 1}, {3, 2}, {4, 2}}));

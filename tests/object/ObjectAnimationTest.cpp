@@ -55,6 +55,28 @@ TEST_F(RunAnimation, OfASingleFrameDoesNotTick) {
   EXPECT_EQ(Frames(door), (Lines{"a", "b"})) << "all sequences show at once";
 }
 
+TEST_F(FirstFrame, GivesItsSourceSizeOnlyWhereBothDrawSizesAreNothing) {
+  bench_.Object("door")
+      .Frame("first", {0, 0, 1, 1})
+      .Frame("high", {0, 0, 11, 12}, "stable", "stable/40")
+      .Frame("wide", {0, 0, 13, 14}, "stable/50", "stable")
+      .Frame("none", {0, 0, 15, 16}, "stable/0", "stable/0")
+      .Frame("both", {0, 0, 17, 18}, "stable/60", "stable/70");
+  for (const char* frame : {"first", "high", "wide", "none", "both"}) {
+    bench_.Object("door").Animation(frame, 50, "loop", {frame}).State(frame, "nothing", frame);
+  }
+  bench_.Object("door").Directives("state_first");
+  TestedObject door = bench_.LoadOn("door");
+  const auto size_in = [&door](const char* state) {
+    door->ProcessState(state);
+    return Size{door->width(), door->height()};
+  };
+  EXPECT_EQ(size_in("high"), (Size{0, 40}));
+  EXPECT_EQ(size_in("wide"), (Size{50, 0}));
+  EXPECT_EQ(size_in("none"), (Size{15, 16}));
+  EXPECT_EQ(size_in("both"), (Size{60, 70}));
+}
+
 TEST_F(RunAnimation, TheSameNameIsNotStartedAgainEvenLongAfterItsEnd) {
   Door()
       .Animation("wave", 100, "nonloop", {"a b"})

@@ -256,6 +256,24 @@ TEST(DrawingPaths, ALostSurfaceIsRestoredForTheNextFrame) {
   EXPECT_EQ(bench.Pixel(0, 0), kRed);
 }
 
+TEST(DrawingPaths, ALostFrameStopsNeitherTheFramesBehindItNorTheChildren) {
+  DrawingBench bench(DrawingPath::kDirectDraw);
+  bench.Block("lamp", 'b', 4, 4);
+  bench.Object("door")
+      .Picture(Filled(4, 4, 'g'))
+      .Frame("one", {0, 0, 2, 2}, "10", "0")
+      .Frame("two", {0, 0, 2, 2}, "20", "0")
+      .Animation("still", 9, "loop", {"one", "two"})
+      .State("default", "nothing", "still")
+      .Child("lamp", "xpos_30");
+  TestedObject door = bench.LoadOn("door");
+  bench.platform.faults.Plan("Blt", 0, 1, true);
+  bench.Draw(*door);
+  EXPECT_EQ(bench.Pixel(10, 0), 0);
+  EXPECT_EQ(bench.Pixel(20, 0), kGreen);
+  EXPECT_EQ(bench.Pixel(40, 0), kBlue);
+}
+
 TEST(FrameAsObject, IsACopyOfTheLastFrameOfThatName) {
   DrawingBench bench(DrawingPath::kWindow);
   bench.Object("door")

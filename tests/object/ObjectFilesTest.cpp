@@ -1,4 +1,6 @@
 // The readers of an object's files.
+#include <cstddef>
+
 #include <gtest/gtest.h>
 
 #include "object/AnimationFile.h"
@@ -300,6 +302,13 @@ TEST(Placements, AreReadByTheFirstMarkThatTheyHold) {
       {"30 / 100", 30, 100},
       {"-7\\8", -7, 8},
       {"stable+5/100", -1, 100},
+      {"1 0+5", 15, 0},
+      {"1 0/2 0", 10, 20},
+      {"sta ble/5", -1, 5},
+      {"30/100/7", 30, 100},
+      {"30\\100\\7", 30, 100},
+      {"1+2+4", 3, 0},
+      {"stable+2+4", -2, 0},
   };
   for (const PlacementCase& c : cases) {
     const Placement placement = ParsePlacement(c.text, {});
@@ -355,6 +364,21 @@ TEST(Placements, PiecesThatAreNoNumbersAreFatal) {
               ParsePlacement("", {"f.txt", 3});
             }),
             "f.txt:3: \"\" is not a number (placement)");
+}
+
+// A blank line at the end of a file is the first line of a further record.
+TEST(RecordFiles, ATrailingBlankLineStartsAFurtherRecord) {
+  EXPECT_EQ(FaultOf(ReadSoundFile, {"click", "\\c.wav", "loop", "", ""}),
+            "f.txt:6: the file ends where the path of sound \"\" should stand");
+  EXPECT_EQ(FaultOf(LoadRegions, {"head", "1", "2", "3", "4", ""}),
+            "f.txt:7: the file ends where X1 of region \"\" should stand");
+  Lines frames = kFrames;
+  frames.emplace_back("");
+  EXPECT_EQ(FaultOf(ReadFrameFile, frames),
+            "f.txt:11: the file ends where the path of the region file of frame \"\", or "
+            "\"nothing\" should stand");
+  EXPECT_EQ(FaultOf(ReadAnimationRecords, {"walk", "100", "loop", "unused", "a", "statedone", ""}),
+            "f.txt:8: the file ends where interval of animation \"\" should stand");
 }
 
 const Lines kAnimation = {"walk", "100", "loop", "unused", "a  b", "c", "StateDone"};

@@ -181,6 +181,19 @@ TEST_P(ObjectHit, TheLastRegionAndTheLastFrameWin) {
   EXPECT_EQ(Region(door, 12, 3), "") << "the frame under it isn't asked";
 }
 
+TEST_P(ObjectHit, ATransparentPixelLeavesTheRegionToTheFrameBelowInTheWindowPathOnly) {
+  Door()
+      .Picture(Drawn({"rrrkkk", "rrrkrk", "rrrkkk"}))
+      .Frame("under", {0, 0, 3, 3})
+      .Frame("over", {3, 0, 3, 3})
+      .Region("under", "coat", 0, 0, 3, 3)
+      .Region("over", "badge", 0, 0, 3, 3)
+      .Animation("still", 9, "loop", {"under", "over"});
+  TestedObject door = At("door", 10, 10);
+  EXPECT_EQ(Region(door, 11, 11), "badge") << "a red pixel of it";
+  EXPECT_EQ(Region(door, 12, 12), GetParam() == DrawingPath::kWindow ? "coat" : "badge");
+}
+
 TEST_P(ObjectHit, TheRegionIsKeptWhenTheFrameHasRegionsAndNoneMatches) {
   Door().Still(20, 20).Region("all", "head", 0, 0, 5, 5);
   TestedObject door = At("door", 0, 0);

@@ -304,6 +304,25 @@ TEST_F(ObjectLifetime, AScriptThatSendsItsOwnEventIsFatal) {
   EXPECT_EQ(bench_.watch.depth.Depth(), 0);
 }
 
+TEST_F(ObjectLifetime, BranchesThatEachSendTheNextActionTwiceComeToAnEnd) {
+  std::string lines = "begin\nif action = x\nmtp toobj_door_useraction_a1\n";
+  for (int i = 1; i < 40; ++i) {
+    const std::string next = "mtp toobj_door_useraction_a" + std::to_string(i + 1) + "\n";
+    lines += "elseif action = a" + std::to_string(i) + "\n" + next + next;
+  }
+  bench_.Object("door")
+      .State("default", "nothing", "nothing", "main")
+      .Script("main", lines + "endif\nend\n");
+  bench_.Object("hall", "hall").Child("door");
+  TestedObject hall = bench_.LoadOn("hall");
+  const std::string fault = FatalOf([&] { Shout(hall); });
+  EXPECT_NE(fault.find("in one event: the content multiplies at mtp toobj_door_useraction_a1 > mtp "
+                       "toobj_door_useraction_a2 > mtp toobj_door_useraction_a3 > ... > "),
+            std::string::npos)
+      << fault;
+  EXPECT_EQ(bench_.watch.depth.Depth(), 0);
+}
+
 TEST_F(ObjectLifetime, AChildMayGrowDuringTheWalkAndIsVisited) {
   Actor("grower", "mtp grow\n");
   Actor("late", "mtp late\n");

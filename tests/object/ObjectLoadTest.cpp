@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "media/SoundState.h"
+#include "support/NotedStates.h"
 #include "support/ObjectBench.h"
 
 namespace quendle {
@@ -352,12 +353,12 @@ TEST_F(LineNine, RunsBeforeTheChildrenExist) {
   bench_.Object("door")
       .State("default")
       .State("open")
-      .Script("greet", "begin\nmtp x\nend\n")
       .Directives("runstate_open")
       .Child("lamp", "state_lit");
+  NotedStates states(bench_.watch);
   TestedObject door = bench_.Load("door");
+  EXPECT_EQ(states.lines, (Lines{"door: default", "door: open", "lamp: default", "lamp: lit"}));
   EXPECT_EQ(ObjectBench::NamesOf(door->Children()), (Lines{"lamp"}));
-  EXPECT_EQ(door->Inner().StateHistory(), (Lines{"default"}));
 }
 
 TEST_F(ChildrenOfALoad, MakeChildrenInOrderBelowTheirParent) {
@@ -458,20 +459,74 @@ TEST_F(ChildrenOfALoad, AWrongDirectiveNamesTheLineOfTheList) {
   EXPECT_EQ(LoadFault("hall"), "Info\\hall\\children.txt:1: \"left\" is not a number (xpos)");
 }
 
-TEST_F(ChildrenOfALoad, ARunStateOfALineReachesTheNewChildBeforeItIsAdded) {
-  bench_.Object("door").State("default").State("wave");
-  bench_.Object("hall", "hall").Child("door", "runstate_wave");
-  TestedObject hall = bench_.Load("hall");
+TEST_F(ChildrenOfALoad, ALineReachesTheNewChildBeforeItIsAdded) {
+  // Below an object that is on an added child begins to sound: by then it is in the line's state.
+  bench_.Object("door")
+      .Sound("a")
+      .Sound("b")
+      .Sound("c")
+      .State("default", "a")
+      .State("open", "b")
+      .State("wave", "c");
+  bench_.Object("hall", "hall");
+  TestedObject hall = bench_.LoadOn("hall");
+  bench_.platform.files.Put("\\Info\\more.txt",
+                            "\\Info\\door\\door.txt state_open runstate_wave\n");
+  hall->LoadChildrenObjects("\\Info\\more.txt", 0);
   TestedObject door = ObjectBench::Child(*hall, "door");
   EXPECT_EQ(door->CurrentState(), "wave");
-  EXPECT_EQ(door->Inner().StateHistory(), (Lines{"default"}));
+  EXPECT_EQ(door->Inner().StateHistory(), (Lines{"open"}));
+  EXPECT_EQ(bench_.sounds.Runs("a.wma"), 0);
+  EXPECT_EQ(bench_.sounds.Runs("b.wma"), 0);
+  EXPECT_EQ(bench_.sounds.Runs("c.wma"), 1);
 }
 
 TEST_F(ChildrenOfALoad, AListThatNamesItsOwnObjectIsFatalAndNotTheEndOfTheStack) {
   bench_.Object("hall", "hall").Child("hall");
-  EXPECT_TRUE(LoadFault("hall").find("levels deep: the content goes round in circles at file") !=
-              std::string::npos)
-      << LoadFault("hall");
+  EXPECT_EQ(LoadFault("hall"),
+            "more than 60 objects inside one another: the content goes round in circles at object "
+            "file \"Info\\hall\\hall.txt\"");
+}
+
+TEST_F(ChildrenOfALoad, SixtyObjectsInsideOneAnotherAreTheMost) {
+  const auto name = [](int level) { return "n" + std::to_string(level); };
+  for (int level = 61; level >= 1; --level) {
+    TestObject& object = bench_.Object(name(level));
+    if (level < 61) object.Child(name(level + 1));
+  }
+  EXPECT_EQ(LoadFault("n1"),
+            "more than 60 objects inside one another: the content is nested too deep at object "
+            "file \"Info\\n61\\n61.txt\"");
+  EXPECT_NO_THROW(bench_.LoadOn("n2"));
+}
+
+TEST_F(ChildrenOfALoad, GlobalObjectsInsideOneAnotherHaveTheSameLimit) {
+  bench_.Object("g1", "hall");
+  TestedObject below = bench_.LoadGlobal("g1");
+  for (int level = 2; level <= 60; ++level) {
+    const std::string name = "g" + std::to_string(level);
+    bench_.Object(name, "hall").Child("GlobalObject_g" + std::to_string(level - 1));
+    bench_.LoadGlobal(name);
+  }
+  bench_.Object("g61", "hall").Child("GlobalObject_g60");
+  EXPECT_EQ(LoadFault("g61"),
+            "more than 60 objects inside one another: the content is nested too deep at \"g1\"");
+}
+
+TEST_F(ChildrenOfALoad, ListsThatMultiplyAreFatalAndNameTheChain) {
+  for (int level = 1; level <= 20; ++level) {
+    const std::string next = std::to_string(level + 1);
+    for (const char* side : {"a", "b"}) {
+      TestObject& object = bench_.Object(side + std::to_string(level));
+      if (level < 20) object.Child("a" + next).Child("b" + next);
+    }
+  }
+  const std::string fault = LoadFault("a1");
+  const std::string most = std::to_string(WorkDepth::MostOf(Work::kObject));
+  const std::string front = "more than " + most +
+                            " object files in one event: the content multiplies at "
+                            "Info\\a1\\a1.txt > Info\\";
+  EXPECT_EQ(fault.substr(0, front.size()), front);
 }
 
 TEST_F(ChildrenOfALoad, AddingSetsNoParentAndOnlyTurningOnDoes) {

@@ -233,8 +233,8 @@ TEST_F(MementoFiles, RecordsWithoutEndAreFatalAndNotTheEndOfTheStack) {
   }
   EXPECT_EQ(
       FatalOf([&] { Read(lines); }),
-      "more than 200 levels deep: the content goes round in circles at file \"a record of the "
-      "saved game\"");
+      "more than 200 levels deep: the content is nested too deep at file \"a record of the saved "
+      "game\"");
 }
 
 }  // namespace

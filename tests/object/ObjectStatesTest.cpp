@@ -3,6 +3,7 @@
 
 #include "media/SoundState.h"
 #include "script/Statement.h"
+#include "support/NotedStates.h"
 #include "support/ObjectBench.h"
 
 namespace quendle {
@@ -336,6 +337,39 @@ TEST_F(TurningOn, StartsChildrenInOrderBelowTheObject) {
     EXPECT_TRUE(ObjectBench::Child(*hall, name)->ObjectOn());
     EXPECT_EQ(ObjectBench::Child(*hall, name)->Parent(), hall);
   }
+}
+
+// A hall with the children x and y, and x with a child of its own.
+class TurningATree : public ObjectStates {
+ protected:
+  TurningATree() {
+    for (const char* name : {"x", "leaf", "y"}) bench_.Object(name).State("default").State("busy");
+    bench_.Object("x").Child("leaf");
+    bench_.Object("hall", "hall").State("default").State("busy").Child("x").Child("y");
+  }
+  // The same for the hall, x, its leaf and y, in this order.
+  static Lines Each(const std::string& state) {
+    return {"hall: " + state, "x: " + state, "leaf: " + state, "y: " + state};
+  }
+};
+
+TEST_F(TurningATree, OnEntersTheOwnStateFirstAndThenThoseOfTheChildrenInOrder) {
+  TestedObject hall = bench_.Load("hall");
+  NotedStates states(bench_.watch);
+  hall->TurnOn();
+  EXPECT_EQ(states.lines, Each("default"));
+}
+
+TEST_F(TurningATree, OffGoesBackToTheOwnStateFirstAndThenToThoseOfTheChildrenInOrder) {
+  TestedObject hall = bench_.LoadOn("hall");
+  TestedObject x = ObjectBench::Child(*hall, "x");
+  for (const TestedObject& object :
+       {ObjectBench::Child(*hall, "y"), ObjectBench::Child(*x, "leaf"), x, hall}) {
+    object->Inner().RunState("busy");
+  }
+  NotedStates states(bench_.watch);
+  hall->TurnOff();
+  EXPECT_EQ(states.lines, Each("default"));
 }
 
 TEST_F(TurningOn, WithoutACurrentStateIsFatal) {

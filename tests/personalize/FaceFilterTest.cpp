@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "personalize/FaceFilter.h"
 
 #include <gtest/gtest.h>
@@ -6,20 +8,20 @@ namespace quendle {
 namespace {
 
 TEST(FaceFilter, FloorIsHalfBelowRoundedToEven) {
-  EXPECT_EQ(face::RoundHalfBelow(1.0), 0);
-  EXPECT_EQ(face::RoundHalfBelow(2.0), 2);
-  EXPECT_EQ(face::RoundHalfBelow(3.0), 2);
-  EXPECT_EQ(face::RoundHalfBelow(0.0), 0);
-  EXPECT_EQ(face::RoundHalfBelow(0.4), 0);
-  EXPECT_EQ(face::RoundHalfBelow(1.7), 1);
-  EXPECT_EQ(face::RoundHalfBelow(-1.0), -2);
+  EXPECT_EQ(face::HalfBelowToEven(1.0), 0);
+  EXPECT_EQ(face::HalfBelowToEven(2.0), 2);
+  EXPECT_EQ(face::HalfBelowToEven(3.0), 2);
+  EXPECT_EQ(face::HalfBelowToEven(0.0), 0);
+  EXPECT_EQ(face::HalfBelowToEven(0.4), 0);
+  EXPECT_EQ(face::HalfBelowToEven(1.7), 1);
+  EXPECT_EQ(face::HalfBelowToEven(-1.0), -2);
 }
 
 TEST(FaceFilter, CeilingIsHalfAboveRoundedToEven) {
-  EXPECT_EQ(face::RoundHalfAbove(1.0), 2);
-  EXPECT_EQ(face::RoundHalfAbove(2.0), 2);
-  EXPECT_EQ(face::RoundHalfAbove(3.0), 4);
-  EXPECT_EQ(face::RoundHalfAbove(0.2), 1);
+  EXPECT_EQ(face::HalfAboveToEven(1.0), 2);
+  EXPECT_EQ(face::HalfAboveToEven(2.0), 2);
+  EXPECT_EQ(face::HalfAboveToEven(3.0), 4);
+  EXPECT_EQ(face::HalfAboveToEven(0.2), 1);
 }
 
 TEST(FaceFilter, RedIsInTheLowByte) {

@@ -96,6 +96,22 @@ TEST_F(frmSelectPictureTest, GoingBackFromStage2ShowsTheSamePreview) {
   EXPECT_TRUE(At("Image1").visible);
 }
 
+TEST_F(frmSelectPictureTest, EveryStageEndsWhenTheSystemEndsTheProgram) {
+  EXPECT_THROW(host.EndProgram(), ProcessEnds);
+  ToPartition();
+  ASSERT_EQ(InView(), "frmPartitionPicture");
+  EXPECT_THROW(host.EndProgram(), ProcessEnds);
+  Click({{1, 1}, {20, 2}, {3, 30}});
+  PressPicture(3);
+  ASSERT_EQ(InView(), "frmEditDoctorCursor");
+  EXPECT_THROW(host.EndProgram(), ProcessEnds);
+  PressPicture(3);
+  ASSERT_EQ(InView(), "frmDone");
+  EXPECT_THROW(host.EndProgram(), ProcessEnds);
+  EXPECT_FALSE(settings.PersonalizeOn);
+  EXPECT_EQ(prompt.calls, std::vector<std::string>(4, "Unload"));
+}
+
 TEST_F(frmSelectPictureTest, PreviousAndCloseLeadBackToTheStartUpForm) {
   for (int index : {1, 2, 11, 12}) {
     select.Open();

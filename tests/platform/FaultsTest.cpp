@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "platform/Faults.h"
 
 #include <gtest/gtest.h>
@@ -22,7 +24,7 @@ TEST(Faults, AnOperationFailsSoOftenAfterSoManyGoodCalls) {
 TEST(Faults, OtherOperationsAreNotTouched) {
   Faults faults;
   faults.Plan("write", 0, 0, false);
-  EXPECT_FALSE(faults.Fails("writ"));
+  EXPECT_FALSE(faults.Fails("writepart"));
   EXPECT_FALSE(faults.Fails("open"));
   EXPECT_TRUE(faults.Fails("write"));
 }
@@ -39,6 +41,12 @@ TEST(Faults, ALostSurfaceIsTold) {
   faults.Plan("Blt", 0, 1, true);
   EXPECT_EQ(faults.Next("Blt"), Faults::Kind::kLost);
   EXPECT_EQ(faults.Next("Blt"), Faults::Kind::kNone);
+}
+
+TEST(Faults, AnOperationThatNobodyAsksAboutCannotBePlanned) {
+  Faults faults;
+  EXPECT_THROW(faults.Plan("writ", 0, 0, false), std::invalid_argument);
+  for (std::string_view operation : kOperationsThatCanFail) faults.Plan(operation, 0, 1, false);
 }
 
 TEST(Faults, ANewPlanTakesThePlaceOfTheOldOne) {

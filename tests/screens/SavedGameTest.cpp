@@ -81,6 +81,19 @@ TEST_F(SavedGameTest, SomeNamesAreNeverWrittenByContainment) {
             "begin\r\n" + Record("tools") + Record("blinker") + Record("room") + "end\r\n");
 }
 
+TEST_F(SavedGameTest, NamesThatAreNotWrittenAreTakenInMemoryAllTheSame) {
+  Screens({{"overlay", "cursors"}, {"hall", "squareroom"}, {"hall", "room"}});
+  for (const char* name : {"cursors", "squareroom", "room"}) {
+    keeper.GetScreen(name)->ProcessState("better1");
+  }
+  keeper.SaveGame("userdata.txt");
+  EXPECT_EQ(File("\\userdata.txt"), "begin\r\n" + Record("room", "better1") + "end\r\n");
+  ASSERT_EQ(keeper.Mementos().Count(), 3u);
+  for (const auto& entry : keeper.Mementos()) {
+    EXPECT_EQ(entry.value->CurrentState(), "better1") << entry.key;
+  }
+}
+
 TEST_F(SavedGameTest, BlinkerAndBobblerScreensStayOutByTheirTypeOnly) {
   Screens({{"subgame", "blinker"}, {"hall", "bobbler"}});
   ObjectRef game = keeper.GetScreen("blinker");

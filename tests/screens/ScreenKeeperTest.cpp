@@ -176,6 +176,37 @@ TEST_F(ScreenKeeperTest, TheFreeEntryOfTheHighestAgeMakesRoom) {
   EXPECT_EQ(victim->CurrentState(), "");
 }
 
+TEST_F(ScreenKeeperTest, ANewScreenIsAsItWasLeftBeforeAnotherMakesRoomForIt) {
+  struct NotedSteps : Tracer {
+    void Trace(const TraceEvent& event) override {
+      const bool step = event.kind == TraceKind::kScreen || event.text == "better1";
+      if (step) lines.push_back(std::string(event.to) + " " + std::string(event.text));
+    }
+    std::vector<std::string> lines;
+  } steps;
+  Screens({"a", "b", "c", "d", "e", "f"});
+  files.Put("\\userdata.txt", "begin\nbegin\nf\nbetter1\n0\n0\nTrue\nend\nend\n");
+  keeper.LoadGame("userdata.txt");
+  for (const char* name : {"a", "b", "c", "d", "e"}) GetAndFree(name);
+  watch.tracer = &steps;
+  keeper.GetScreen("f");
+  watch.tracer = nullptr;
+  EXPECT_THAT(steps.lines, ElementsAre("f build", "f better1", "a release"));
+}
+
+TEST_F(ScreenKeeperTest, AnEvictedScreenLeavesOneMementoAndItIsTheNewOne) {
+  Screens({"a", "b", "c", "d", "e", "f"});
+  for (const char* name : {"a", "b", "c", "d", "e"}) GetAndFree(name);
+  ObjectRef screen = keeper.Cache().Find("a")->m_ptrGameObject;
+  keeper.SaveScreen(screen);
+  screen->ProcessState("better1");
+  Child(screen, "akid")->Setxpos(77);
+  keeper.GetScreen("f");
+  ASSERT_THAT(Mementos(), ElementsAre("a"));
+  EXPECT_EQ(keeper.Mementos().Item(1)->CurrentState(), "better1");
+  EXPECT_EQ(keeper.Mementos().Item(1)->Children().Item(1)->xpos(), 77);
+}
+
 TEST_F(ScreenKeeperTest, WithoutAFreeEntryTheCacheGrows) {
   Screens({"a", "b", "c", "d", "e", "f", "g"});
   for (const char* name : {"a", "b", "c", "d", "e", "f"}) keeper.GetScreen(name);

@@ -210,8 +210,8 @@ TEST(ScriptFaults, TooManyNestedBlocksAreFatalAndNotTheEndOfTheStack) {
   std::string text;
   for (int i = 0; i < 100000; ++i) text += "begin\n";
   EXPECT_EQ(ParseFault(text),
-            "s.txt:201: more than 200 levels deep: the content goes round in circles at file "
-            "\"begin\"");
+            "s.txt:61: more than 60 blocks inside one another: the content is nested too deep at "
+            "script line \"begin\"");
 }
 
 TEST(ScriptPrinting, AScriptPrintsBackAsItsSource) {

@@ -163,6 +163,17 @@ TEST(ScriptRun, AConditionOfFewerThanThreeWordsIsFatalWhenItIsAskedFor) {
             "\"\" has 0");
 }
 
+TEST(Statements, TheVerbSaysWhatTheSecondWordIs) {
+  EXPECT_EQ(Statement("mtp a").Meaning(), StatementMeaning::kMessage);
+  EXPECT_EQ(Statement("change a").Meaning(), StatementMeaning::kState);
+  EXPECT_EQ(Statement("runstate a").Meaning(), StatementMeaning::kPassingState);
+  EXPECT_EQ(Statement("runsound a").Meaning(), StatementMeaning::kSound);
+  EXPECT_EQ(Statement("message a").Meaning(), StatementMeaning::kNothing);
+  EXPECT_TRUE(Statement("mtp a").HasArgument());
+  EXPECT_FALSE(Statement("mtp ").HasArgument());
+  EXPECT_EQ(StatementWords().size(), 4U);
+}
+
 TEST(Statements, VerbsAreReadInAnyCaseAndOtherWordsAreNone) {
   EXPECT_EQ(Statement("mtp a").Verb(), StatementVerb::kMtp);
   EXPECT_EQ(Statement("MTP a").Verb(), StatementVerb::kMtp);

@@ -73,8 +73,9 @@ TEST_F(GameRun, AStartReadsAndWritesItsFilesInTheirOrder) {
       At("read", "\\Info\\globalscriptstates.txt"),
       At("read", "\\Info\\globalgameobjects.txt"),
       At("read", "\\Info\\screens.txt"),
-      At("exists", "\\HelpSys.txt"),
-      At("exists", "\\userdata.txt"),
+      At("read", "\\HelpSys.txt"),
+      At("read", "\\autosave.txt"),
+      At("read", "\\userdata.txt"),
       At("read", "\\Info\\introscreen\\data.txt"),
       At("exists", "\\info\\doodle.wma"),
       At("read", "\\Info\\tools\\data.txt"),
@@ -90,8 +91,9 @@ TEST_F(GameRun, AnOrderlyEndMarksItselfBeforeItSaves) {
   Send("cs_floor1hall1");
   files.Record(true);
   EXPECT_EQ(Close(), Status::kEnded);
-  EXPECT_THAT(Changes(), ElementsAre("write \\GameRunning.txt", "write \\userdata.txt",
-                                     "write \\HelpSys.txt", "remove \\autosave.txt"));
+  EXPECT_THAT(Changes(),
+              ElementsAre("write \\GameRunning.txt", "write \\autosave.txt", "write \\userdata.txt",
+                          "write \\HelpSys.txt", "remove \\autosave.txt"));
   EXPECT_EQ(File("\\GameRunning.txt"), "Off\r\n");
   EXPECT_THAT(File("\\userdata.txt"), testing::StartsWith("begin\r\nbegin\r\n"));
   EXPECT_EQ(File("\\HelpSys.txt"), "True\r\nFalse\r\nFalse\r\nFalse\r\nFalse\r\n");

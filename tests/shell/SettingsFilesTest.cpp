@@ -120,10 +120,31 @@ TEST_F(SettingsFilesTest, TheTwoSpellingsOfPersonalizeAreOneFile) {
   EXPECT_EQ(files.Paths().size(), 3u) << "no second file beside the old one";
 }
 
-TEST_F(SettingsFilesTest, AnOptionFileThatCantBeWrittenIsFatalAndNamed) {
-  faults.Plan("write", 1, 1, false);
-  EXPECT_EQ(FaultOf([&] { settings_files.SaveOptions(); }),
-            "GraphicsMode.txt: the file can't be written");
+TEST_F(SettingsFilesTest, AnOptionFileThatCantBeWrittenIsKeptAndTriedAgain) {
+  settings.GraphicsMode = 16;
+  faults.Plan("write", 1, 2, false);
+  settings_files.SaveOptions();
+  EXPECT_EQ(File("GraphicsMode.txt"), "(none)");
+  EXPECT_TRUE(content.HasUnsaved());
+  settings.GraphicsMode = 32;
+  settings_files.ReadOptions();
+  EXPECT_EQ(settings.GraphicsMode, 16) << "as if it stood on the disk";
+  settings_files.WriteGameRunning(true);
+  EXPECT_EQ(File("GraphicsMode.txt"), "16\r\n");
+  EXPECT_FALSE(content.HasUnsaved());
+}
+
+TEST_F(SettingsFilesTest, AFileThatIsThereAndCantBeReadIsFatalAndStays) {
+  const std::vector<std::pair<const char*, std::function<void()>>> readers = {
+      {"Personalize.txt", [&] { settings_files.ReadOptions(); }},
+      {"GameMode.txt", [&] { settings_files.ReadGameMode(); }},
+      {"GameRunning.txt", [&] { settings_files.GameRunningIsOn(); }}};
+  for (const auto& [name, read] : readers) {
+    Put(name, "On");
+    faults.Plan("read", 0, 1, false);
+    EXPECT_THAT(FaultOf(read), testing::HasSubstr(std::string("The file ") + name)) << name;
+    EXPECT_EQ(File(name), "On");
+  }
 }
 
 TEST_F(SettingsFilesTest, AMissingGameModeIsMadeAndReadAsNormal) {
@@ -158,35 +179,29 @@ TEST_F(SettingsFilesTest, OnInAnyCaseMeansThatTheLastRunDidNotEndInOrder) {
   for (const char* word : {"On\r\n", "ON", "on"}) {
     Put("gamerunning.txt", word);
     EXPECT_TRUE(settings_files.GameRunningIsOn()) << word;
-    EXPECT_FALSE(settings_files.LastRunEndedInOrder()) << word;
   }
   for (const char* word : {"Off\r\n", "off", "onward", "\r\nOn"}) {
     Put("gamerunning.txt", word);
     EXPECT_FALSE(settings_files.GameRunningIsOn()) << word;
-    EXPECT_TRUE(settings_files.LastRunEndedInOrder()) << word;
   }
 }
 
 TEST_F(SettingsFilesTest, AMissingGameRunningIsACleanEndAndIsNotMade) {
   EXPECT_FALSE(settings_files.GameRunningIsOn());
-  EXPECT_TRUE(settings_files.LastRunEndedInOrder());
   EXPECT_EQ(File("GameRunning.txt"), "(none)");
 }
 
-TEST_F(SettingsFilesTest, AnEmptyGameRunningIsFatalForTheCrashQuestionOnly) {
+TEST_F(SettingsFilesTest, AnEmptyGameRunningIsFatal) {
   Put("GameRunning.txt", "");
   EXPECT_EQ(FaultOf([&] { settings_files.GameRunningIsOn(); }),
             "GameRunning.txt:1: the file ends where the word On or Off should stand");
-  EXPECT_TRUE(settings_files.LastRunEndedInOrder());
 }
 
 TEST_F(SettingsFilesTest, TheRunIsMarkedOnAndOff) {
   settings_files.WriteGameRunning(true);
   EXPECT_EQ(File("GameRunning.txt"), "On\r\n");
-  EXPECT_FALSE(settings_files.LastRunEndedInOrder());
   settings_files.WriteGameRunning(false);
   EXPECT_EQ(File("GameRunning.txt"), "Off\r\n");
-  EXPECT_TRUE(settings_files.LastRunEndedInOrder());
 }
 
 TEST_F(SettingsFilesTest, DialogModeCountsByItsExistenceAlone) {

@@ -1,5 +1,7 @@
 // Which sentence is shown while which sound plays.
 
+#include <stdexcept>
+
 #include "shell/SpokenCaptions.h"
 
 #include <gtest/gtest.h>

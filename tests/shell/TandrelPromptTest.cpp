@@ -331,7 +331,7 @@ TEST_F(TandrelPromptTest, DialogsAreMadeOnceAndStay) {
 }
 
 TEST_F(TandrelPromptTest, LeavingFromTheFormKeepsTheOptions) {
-  for (int way : {11, 12, 0, -1, -2}) {
+  for (int way : {11, 12, 0, -1, -2, -3}) {
     for (const std::string& path : files.Paths()) files.Remove(path);
     Start();
     settings.DifficultyLevel = "Hard";
@@ -342,6 +342,7 @@ TEST_F(TandrelPromptTest, LeavingFromTheFormKeepsTheOptions) {
       if (way == 0) host.Close();
       if (way == -1) host.Key(FormKey::kEscape);
       if (way == -2) prompt->Unload();
+      if (way == -3) host.EndProgram();
     })) << way;
     EXPECT_EQ(File("DifficultyLevel.txt"), "Hard\r\n") << way;
     EXPECT_EQ(File("personalize.txt"), "On\r\n") << way;
@@ -350,6 +351,26 @@ TEST_F(TandrelPromptTest, LeavingFromTheFormKeepsTheOptions) {
     EXPECT_EQ(starter.opened, 0);
     prompt.reset();
   }
+}
+
+TEST_F(TandrelPromptTest, ASystemThatEndsTheProgramEndsItFromEveryDialog) {
+  Put("GameRunning.txt", "On");
+  Start();
+  ASSERT_EQ(InView(), "frmSafeMode");
+  settings.DifficultyLevel = "Hard";
+  EXPECT_TRUE(Ends([&] { host.EndProgram(); }));
+  EXPECT_EQ(File("DifficultyLevel.txt"), "Hard\r\n");
+  EXPECT_EQ(File("GameRunning.txt"), "On") << "the question comes again";
+  EXPECT_FALSE(settings.SafeMode);
+  PressPicture(1);
+  for (int index : {1, 5}) {
+    PressPicture(index);
+    ASSERT_NE(InView(), "TandrelPrompt");
+    EXPECT_TRUE(Ends([&] { host.EndProgram(); })) << index;
+    PressPicture(7);
+  }
+  EXPECT_EQ(File("DialogMode.txt"), "(none)") << "the child's age is still to be asked";
+  EXPECT_EQ(starter.opened, 0);
 }
 
 TEST_F(TandrelPromptTest, MinimiseBeepAndLinkEvenLikeOdd) {

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,9 @@
 #include "script/ActionText.h"
 #include "script/ScriptWorld.h"
 #include "subgames/PlayAreaObject.h"
+#include "subgames/PointSystemObject.h"
 #include "subgames/SubgameClasses.h"
+#include "subgames/SubgameObject.h"
 #include "support/TestTree.h"
 
 namespace quendle {
@@ -84,7 +87,9 @@ struct SubgameBench {
     Register<ButtonObject>("button");
     Register<PatientObject>("patient");
     Register<MenuObject>("menu");
-    RegisterSubgameClasses(factory);
+    Register<SubgameObject>("subgame");
+    Register<PointSystemObject>("pointsystem");
+    RegisterPlayAreas(factory);
     PutGame();
   }
   virtual ~SubgameBench() {

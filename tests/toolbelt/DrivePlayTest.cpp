@@ -266,6 +266,8 @@ TEST(DrivePlay, AFailureThatWasPlannedHappens) {
   EXPECT_THAT(bench.Refused("fail write often"), HasSubstr("neither after, times nor lost"));
   EXPECT_THAT(bench.Refused("fail wriet"), HasSubstr("did you mean \"write\"?"));
   bench.Do("fail WRITE after 0 times 1");
+  bench.Do("fail CreatePolygonRgn");
+  bench.Do("fail read after 3");
   const Json answer = bench.Run("play");
   EXPECT_EQ(answer["ok"], false);
   EXPECT_TRUE(answer.contains("fatal")) << answer.dump();

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 #include "backends/raster/BitmapReader.h"
 #include "toolbelt/FrameHash.h"

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <stdexcept>
 
 #include "backends/files/ContentHash.h"
 #include "backends/files/DiskFileSystem.h"

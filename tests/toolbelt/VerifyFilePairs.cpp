@@ -2,6 +2,58 @@
 
 namespace quendle {
 
+namespace {
+
+// Adds an object without a picture, with `children` as its child list.
+Plant Plain(const std::string& name, const std::string& children) {
+  const std::string list = children.empty() ? "nothing" : "\\Info\\plain\\" + name + "list.txt";
+  std::vector<Plant> plants{
+      Put("plain\\" + name + ".txt", "button\n" + name + "\n0\n0\n0\n0\n\\Info\\plain\\data.txt\n" +
+                                         list + "\nstate_default\n"),
+      Put("plain\\data.txt", "\\Info\\plain\\states.txt\nnothing\nnothing\nnothing\nunused\n"),
+      Put("plain\\states.txt", "default\nnothing\nnothing\nnothing\nunused\nunused\n")};
+  if (!children.empty()) plants.push_back(Put("plain\\" + name + "list.txt", children));
+  return All(plants);
+}
+
+std::string PlainLine(const std::string& name) { return "\\Info\\plain\\" + name + ".txt\n"; }
+
+// Below the hall `count` objects, each inside the one before.
+Plant Nested(int count) {
+  std::vector<Plant> plants{Append("hall\\hallchildren.txt", PlainLine("n1"))};
+  for (int i = 1; i <= count; ++i) {
+    const std::string next = i < count ? PlainLine("n" + std::to_string(i + 1)) : "";
+    plants.push_back(Plain("n" + std::to_string(i), next));
+  }
+  return All(plants);
+}
+
+// Global objects, each of which holds the one before: a tree that no single file makes deep.
+Plant NestedGlobals(int count) {
+  std::vector<Plant> plants;
+  for (int i = 1; i <= count; ++i) {
+    const std::string name = "g" + std::to_string(i);
+    plants.push_back(Append("globalgameobjects.txt", PlainLine(name)));
+    plants.push_back(Plain(name, i == 1 ? "" : "GlobalObject_g" + std::to_string(i - 1) + "\n"));
+  }
+  return All(plants);
+}
+
+// Below the hall `levels` levels of two objects that share the list of the next level.
+Plant Doubled(int levels) {
+  std::vector<Plant> plants{Append("hall\\hallchildren.txt", PlainLine("a1"))};
+  for (int i = 1; i <= levels; ++i) {
+    const std::string next = std::to_string(i + 1);
+    for (const char* side : {"a", "b"}) {
+      plants.push_back(Plain(side + std::to_string(i),
+                             i < levels ? PlainLine("a" + next) + PlainLine("b" + next) : ""));
+    }
+  }
+  return All(plants);
+}
+
+}  // namespace
+
 std::vector<CheckPair> FilePairs() {
   const std::string intro = "\\Info\\introscreen\\introscreen.txt\n";
   return {
@@ -89,6 +141,10 @@ std::vector<CheckPair> FilePairs() {
        Edit("board\\puzzle.txt", "\n3\n", "\n3 tiles\n")},
       {"V212", "Info\\board\\puzzle.txt:13", Edit("board\\puzzle.txt", "t1\n", ""),
        Append("board\\puzzle.txt", "t1\n")},
+      {"V213", "Info\\plain\\n59list.txt:1", Nested(60), Nested(59)},
+      {"V213", "Info\\plain\\n59list.txt:1", Nested(5000), Nested(59)},
+      {"V213", "Info\\plain\\g61list.txt:1", NestedGlobals(61), NestedGlobals(60)},
+      {"V214", "Info\\plain\\a7list.txt:2", Doubled(20), Doubled(9)},
   };
 }
 

@@ -21,6 +21,41 @@ Plant Branch(const std::string& pattern) {
               "elseif action = " + pattern + "\nchange default\nelseif action = gamewon");
 }
 
+// The dog answers each of `count` actions by sending the next one `times` times.
+Plant Row(int count, int times) {
+  std::string lines = "begin\nif action = hop\nmtp useraction_a1\n";
+  for (int i = 1; i < count; ++i) {
+    lines += "elseif action = a" + std::to_string(i) + "\n";
+    for (int k = 0; k < times; ++k) lines += "mtp useraction_a" + std::to_string(i + 1) + "\n";
+  }
+  return Well(lines + "elseif action = a" + std::to_string(count) +
+              "\nchange default\nendif\nend\n");
+}
+
+// A statement of the play button, in front of its own.
+Plant Play(const std::string& line) {
+  return Edit("Play1\\pressscript.txt", "mtp toobj", line + "\nmtp toobj");
+}
+
+// The board becomes the field of another game, whose header and cells are there.
+Plant Field(const std::string& type) {
+  std::vector<Plant> plants{
+      Edit("board\\board.txt", "playareasquare", type),
+      Put("board\\puzzle.txt", "\n1\n1\n<CurrentDirectory>\\cells.txt\n\n\n"),
+      Put("board\\cells.txt",
+          "<CurrentDirectory>\\tiledata.txt\n"
+          "<CurrentDirectory>\\tiledata.txt\n"
+          "<CurrentDirectory>\\tiledata.txt\n"),
+      Put("shooterdata.txt", "100 100 *\n"),
+  };
+  for (const char* name : {"cell1", "cell2", "cell3", "cell4", "cell5", "ball", "paddle"}) {
+    plants.push_back(Put("squarescreen\\" + std::string(name) + "data.txt",
+                         "nothing\nnothing\nnothing\nnothing\nunused\n"));
+  }
+  return All(plants);
+}
+
+constexpr const char* kPlay = "Info\\Play1\\pressscript.txt:3";
 constexpr const char* kDog = "Info\\dog\\treatscript.txt:";
 constexpr const char* kDoor = "Info\\dogdoor\\pressscript.txt:4";
 
@@ -74,6 +109,11 @@ std::vector<CheckPair> ScriptPairs() {
        Statement("change default submarine")},
       {"V701", kDoor, Door("mtp opendoor"), Door("mtp StopMusic")},
       {"V701", kDoor, Door("mtp hidetool_dogdoor"), Door("mtp hideobj_dogdoor")},
+      {"V701", kPlay, Play("mtp toobj_board_acceptedcell"), Play("mtp toobj_board_stopgame")},
+      {"V701", kPlay, Play("mtp toobj_board_selectone"),
+       All({Field("playareashooter"), Play("mtp toobj_board_selectone")})},
+      {"V701", kPlay, All({Field("playareashooter"), Play("mtp toobj_board_restartgame")}),
+       All({Field("playareablinker"), Play("mtp toobj_board_restartgame")})},
       {"V702", kDoor, Door("mtp toobj_doctor"), Door("mtp toobj_doctor_runstate_tryagain")},
       {"V702", kDoor, Door("mtp cursor"), Door("mtp cursor_soap")},
       {"V703", kDoor, Door("mtp toobj_shelfdor_runscript_press"),
@@ -99,6 +139,18 @@ std::vector<CheckPair> ScriptPairs() {
        Edit("soap\\toolwonscript.txt", "<objectname>info", "<rootobjectname>info")},
       {"V709", kDoor, Door("mtp toobj_subgamedoor_runscript_press"),
        Door("mtp toobj_shelfdoor_runscript_press")},
+      {"V710", "Info\\dog\\wellscript.txt:3",
+       Well("begin\nif action = hop\nmtp useraction_hop\nendif\nend\n"),
+       Well("begin\nif action = hop\nchange default\nmtp useraction_hop\nendif\nend\n")},
+      {"V710", "Info\\dog\\wellscript.txt:5",
+       Well("begin\nif action = hop\nmtp toobj_dog_useraction_skip\nelseif action = skip\n"
+            "mtp toscreen_currentscreen_useraction_hop\nendif\nend\n"),
+       Well("begin\nif action = hop\nmtp toobj_dog_useraction_skip\nelseif action = skip\n"
+            "mtp toscreen_currentscreen_useraction_jump\nendif\nend\n")},
+      {"V710", "Info\\dog\\wellscript.txt:2", Well("begin\nmtp toobj_dog_runscript_well\nend\n"),
+       Well("begin\nmtp toobj_dog_runscript_treat\nend\n")},
+      {"V711", "Info\\dog\\wellscript.txt:52", Row(30, 2), Row(30, 1)},
+      {"V711", "Info\\dog\\wellscript.txt:198", Row(5000, 1), Row(90, 1)},
   };
 }
 

@@ -20,7 +20,11 @@ constexpr const char* kOtherKind =
     "This file is no photograph that can be used. Please choose a JPEG, GIF or bitmap picture.";
 constexpr const char* kDamaged =
     "This photograph is damaged and can't be used. Please choose another one.";
+constexpr const char* kLargeFile =
+    "This file is too large for a photograph. Please choose another one.";
 constexpr std::int64_t kMillion = 1'000'000;
+// The library takes a copy, and more the more there is; the largest photographs have half of it.
+constexpr std::size_t kMostForLibrary = 60'000'000;
 // Decoders round the sides up to whole blocks before they count the points.
 constexpr std::int64_t kMostWithBlocks = kMostPicturePoints / 4 * 5;
 
@@ -99,6 +103,7 @@ int OrientationOf(const AVFrame& frame) {
 }
 
 DecodedPicture DecodeWithLibrary(std::string_view bytes, PictureKind kind, PictureLimit limit) {
+  if (bytes.size() > kMostForLibrary) return {{}, kLargeFile};
   const Codec codec = OpenCodec(kind);
   if (codec == nullptr) return {{}, kOtherKind};
   const Frame frame = DecodeFrame(*codec, bytes);

@@ -34,11 +34,15 @@ class Overlay {
 // Stands for a window of another program that all input is left to.
 class Deaf : public SdlEventTarget {
  public:
+  bool ToldToQuit() const { return told_to_quit_; }
   std::uint32_t WindowId() const override { return 0; }
   void HandleInput(const SDL_Event&) override {}
   void HandleUpkeep(const SDL_Event&) override {}
   void Settle() override {}
-  void HandleQuit() override {}
+  void HandleQuit() override { told_to_quit_ = true; }
+
+ private:
+  bool told_to_quit_ = false;
 };
 
 // Something that is looked after while a form stands.
@@ -86,14 +90,14 @@ bool DesktopBoxes::ChooseNatively(const std::string& title, const std::vector<Fi
                                   std::string& path) {
   NativeChooser chooser(title, filters, folder_);
   bool running = chooser.IsRunning();
+  Deaf deaf;
   if (running) {
-    Deaf deaf;
     DesktopEventLoop::Modal modal(loop_, deaf);
     Ticker ticker(loop_.Timers(), [&] { running = chooser.IsRunning(); });
-    loop_.Run([&] { return !running; });
+    loop_.Run([&] { return !running || deaf.ToldToQuit(); });
   }
   path = chooser.Answer();
-  return chooser.Served();
+  return chooser.Served() || deaf.ToldToQuit();
 }
 
 std::string DesktopBoxes::ChooseInOwnForm(const std::string& title,

@@ -3,6 +3,7 @@
 #include <SDL.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "backends/desktop/StepClock.h"
 
@@ -83,11 +84,27 @@ DesktopEventLoop::DesktopEventLoop(StepClock& clock)
 
 void DesktopEventLoop::Run(const std::function<bool()>& done) {
   while (!done()) {
+    if (quit_is_wanted_) {
+      PassQuitOn();
+      if (done()) return;
+    }
     if (HandleWaiting(done)) return;
     if (FireDue()) continue;
     Settle();
     SDL_WaitEventTimeout(nullptr, SleepMilliseconds());
   }
+}
+
+// A box goes first. The loop behind it finds the wish still open when it has gone, so that whoever
+// asked the box has its answer by then.
+void DesktopEventLoop::PassQuitOn() {
+  if (!modal_.empty()) {
+    modal_.back()->HandleQuit();
+    return;
+  }
+  quit_is_wanted_ = false;
+  Settle();  // a form that was just put on screen is told, not the one before it
+  for (const auto& target : Targets()) target->HandleQuit();
 }
 
 // Handles the events that wait; true if `done` came to hold.
@@ -106,9 +123,8 @@ void DesktopEventLoop::Dispatch(const SDL_Event& event) {
   // Held while they are called: a target may be dropped by its own event.
   std::vector<std::shared_ptr<SdlEventTarget>> targets = Targets();
   if (event.type == SDL_QUIT) {
-    for (const auto& target : targets) {
-      if (TakesInput(*target)) target->HandleQuit();
-    }
+    quit_is_wanted_ = true;
+    PassQuitOn();
     return;
   }
   // A press behind a box may have given the keyboard to the window there.

@@ -52,6 +52,7 @@ class DesktopEventLoop {
   };
 
  private:
+  void PassQuitOn();
   bool HandleWaiting(const std::function<bool()>& done);
   void Dispatch(const SDL_Event& event);
   // Fires what is due next; false when nothing is.
@@ -67,6 +68,7 @@ class DesktopEventLoop {
   TimerQueue timers_;
   std::vector<std::weak_ptr<SdlEventTarget>> targets_;
   std::vector<SdlEventTarget*> modal_;
+  bool quit_is_wanted_ = false;  // and not all that stands has been told
 };
 
 }  // namespace quendle

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "backends/desktop/InstanceLock.h"
 #include "platform/SystemServices.h"

@@ -269,7 +269,7 @@ void DesktopWindow::HandleUpkeep(const SDL_Event& event) {
 void DesktopWindow::HandleQuit() {
   if (window_ == nullptr) return;
   if (overlay_ != nullptr) {
-    overlay_->Close();
+    overlay_->EndProgram();
   } else if (events_ != nullptr) {
     events_->Unload();
   }

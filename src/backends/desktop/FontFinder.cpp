@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "base/Text.h"
 

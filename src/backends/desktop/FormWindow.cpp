@@ -93,7 +93,7 @@ void FormWindow::Settle() {
 }
 
 void FormWindow::HandleQuit() {
-  if (input_ != nullptr) input_->Close();
+  if (input_ != nullptr) input_->EndProgram();
 }
 
 // The window for the form: a new one in the middle of the display, or the one before, fitted.

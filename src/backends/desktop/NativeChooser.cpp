@@ -43,22 +43,51 @@ std::string BlankParted(const std::string& patterns) {
   return text;
 }
 
+// Patterns that hold for both cases of each letter, for a chooser that tells them apart: a camera
+// writes IMG_0001.JPG.
+std::string InEitherCase(const std::string& patterns) {
+  std::string either;
+  for (char c : patterns) {
+    const bool small = c >= 'a' && c <= 'z';
+    const bool large = c >= 'A' && c <= 'Z';
+    if (!small && !large) {
+      either += c;
+      continue;
+    }
+    const char other = static_cast<char>(c ^ ' ');
+    either += {'[', small ? c : other, small ? other : c, ']'};
+  }
+  return either;
+}
+
+// What a filter is called before the brackets that list its patterns.
+std::string NameOf(const FileFilter& filter) {
+  return std::string(TrimBlanks(filter.name.substr(0, filter.name.find('('))));
+}
+
+// It knows no case by itself, takes one filter a line, and reads the patterns from the brackets.
+std::string KdialogFilters(const std::vector<FileFilter>& filters) {
+  std::string lines;
+  for (const FileFilter& filter : filters) {
+    if (!lines.empty()) lines += '\n';
+    lines += NameOf(filter) + " (" + BlankParted(filter.pattern) + ")";
+  }
+  return lines;
+}
+
 }  // namespace
 
 std::vector<std::string> ChooserCommand(const std::string& helper, const std::string& title,
                                         const std::vector<FileFilter>& filters,
                                         const std::string& folder) {
   if (helper == "kdialog") {
-    std::string choices;
-    for (const FileFilter& filter : filters) {
-      choices += (choices.empty() ? "" : "\n") + BlankParted(filter.pattern) + "|" + filter.name;
-    }
-    return {helper, "--title", title, "--getopenfilename", folder, choices};
+    return {helper, "--title", title, "--getopenfilename", folder, KdialogFilters(filters)};
   }
   std::vector<std::string> command = {helper, "--file-selection", "--title=" + title,
                                       "--filename=" + folder + "/"};
   for (const FileFilter& filter : filters) {
-    command.push_back("--file-filter=" + filter.name + " | " + BlankParted(filter.pattern));
+    command.push_back("--file-filter=" + filter.name + " | " +
+                      InEitherCase(BlankParted(filter.pattern)));
   }
   return command;
 }

@@ -22,7 +22,7 @@ class SdlEventTarget {
   virtual bool TakesDrops() const { return false; }
   // Between events: brings what is seen up to date.
   virtual void Settle() = 0;
-  // The system asks the program to end, by a signal for instance.
+  // The system wants the program to end, by a signal for instance.
   virtual void HandleQuit() = 0;
 };
 

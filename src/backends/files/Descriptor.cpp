@@ -3,11 +3,21 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <system_error>
+
 namespace quendle {
 
 Descriptor::~Descriptor() {
-  if (number_ >= 0) close(number_);
+  if (number_ < 0) return;
+  const int error = errno;
+  close(number_);
+  errno = error;
 }
+
+bool MeansMissing(int error) { return error == ENOENT || error == ENOTDIR || error == ELOOP; }
+
+std::string ReasonOf(int error) { return std::generic_category().message(error); }
 
 Descriptor OpenBelow(const std::string& root, const std::string& relative, int flags) {
   const int always = O_CLOEXEC | O_NOCTTY;

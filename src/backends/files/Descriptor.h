@@ -5,7 +5,7 @@
 
 namespace quendle {
 
-// Owns a file descriptor of the system; -1 is none.
+// Owns a file descriptor of the system; -1 is none. Its end leaves errno alone.
 class Descriptor {
  public:
   Descriptor() = default;
@@ -25,6 +25,12 @@ class Descriptor {
  private:
   int number_ = -1;
 };
+
+// The errors of the system that say that a file isn't there; any other leaves that open.
+bool MeansMissing(int error);
+
+// The words of the system for an error.
+std::string ReasonOf(int error);
 
 // Opens `relative` ("" for the root itself, components parted by slashes) below the folder `root`,
 // component by component, following no link on the way: what is opened is below the root.

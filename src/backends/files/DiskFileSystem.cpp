@@ -1,7 +1,9 @@
 #include "backends/files/DiskFileSystem.h"
 
+#include <cerrno>
 #include <cstdlib>
 
+#include "backends/files/Descriptor.h"
 #include "base/Text.h"
 
 namespace quendle {
@@ -48,29 +50,38 @@ DiskFileSystem::DiskFileSystem(const DiskFolders& folders, Faults& faults)
 bool DiskFileSystem::Exists(std::string_view path) {
   std::optional<ContentPath> split = Split(path);
   if (!split) return false;
-  if (player_ && player_->Exists(*split)) return true;
-  return !IsRemoved(*split) && content_.Exists(*split);
+  if (!MeansMissing(LookAtPlayers(*split))) return true;
+  const int marker = LookAtMarker(*split);
+  return marker != 0 && (!MeansMissing(marker) || !MeansMissing(content_.Look(*split)));
 }
 
-std::optional<std::string> DiskFileSystem::Read(std::string_view path) {
+FileAnswer DiskFileSystem::Read(std::string_view path) {
   std::optional<ContentPath> split = Split(path);
-  if (!split || faults_.Fails("read")) return std::nullopt;
-  if (player_ && player_->Exists(*split)) return player_->Read(*split);
-  return IsRemoved(*split) ? std::nullopt : content_.Read(*split);
+  if (!split) return FileAnswer();
+  if (faults_.Fails("read")) return FileAnswer::Error(ReasonOf(EIO));
+  if (player_) {
+    FileAnswer own = player_->Read(*split);
+    if (!own.IsMissing()) return own;
+    const int marker = LookAtMarker(*split);
+    if (marker == 0) return FileAnswer();
+    if (!MeansMissing(marker)) return FileAnswer::Error(ReasonOf(marker));
+  }
+  return content_.Read(*split);
 }
 
-bool DiskFileSystem::Write(std::string_view path, std::string_view bytes) {
+FileChange DiskFileSystem::Write(std::string_view path, std::string_view bytes) {
   std::optional<ContentPath> split = Split(path);
-  return split && WriteTree().Write(*split, bytes);
+  return split ? WriteTree().Write(*split, bytes) : FileChange::Failed("not a file of the game");
 }
 
-bool DiskFileSystem::Remove(std::string_view path) {
+FileChange DiskFileSystem::Remove(std::string_view path) {
   std::optional<ContentPath> split = Split(path);
-  if (!split) return true;
+  if (!split) return FileChange::Done();
   if (!player_) return content_.Remove(*split);
   // The marker first: stopped in between, the player's file is still there, whole.
-  if (!IsRemoved(*split) && content_.Exists(*split)) {
-    if (!steps_.Allows("remove") || !player_->Write(MarkerOf(*split), "")) return false;
+  if (LookAtMarker(*split) != 0 && !MeansMissing(content_.Look(*split))) {
+    if (!steps_.Allows("remove")) return FileChange::Failed(ReasonOf(errno));
+    if (FileChange marked = player_->Write(MarkerOf(*split), ""); !marked) return marked;
   }
   return player_->Remove(*split);
 }
@@ -86,8 +97,12 @@ std::optional<ContentPath> DiskFileSystem::Split(std::string_view path) const {
   return split;
 }
 
-bool DiskFileSystem::IsRemoved(const ContentPath& path) {
-  return player_ && player_->Exists(MarkerOf(path));
+int DiskFileSystem::LookAtPlayers(const ContentPath& path) {
+  return player_ ? player_->Look(path) : ENOENT;
+}
+
+int DiskFileSystem::LookAtMarker(const ContentPath& path) {
+  return player_ ? player_->Look(MarkerOf(path)) : ENOENT;
 }
 
 }  // namespace quendle

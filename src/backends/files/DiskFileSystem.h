@@ -43,9 +43,9 @@ class DiskFileSystem : public FileSystem {
   DiskFileSystem& operator=(const DiskFileSystem&) = delete;
 
   bool Exists(std::string_view path) override;
-  std::optional<std::string> Read(std::string_view path) override;
-  bool Write(std::string_view path, std::string_view bytes) override;
-  bool Remove(std::string_view path) override;
+  FileAnswer Read(std::string_view path) override;
+  FileChange Write(std::string_view path, std::string_view bytes) override;
+  FileChange Remove(std::string_view path) override;
   std::unique_ptr<LineWriter> CreateLineFile(std::string_view path) override;
 
   // Native path of the folder that takes the writes.
@@ -56,7 +56,9 @@ class DiskFileSystem : public FileSystem {
  private:
   std::optional<ContentPath> Split(std::string_view path) const;
   DiskTree& WriteTree() { return player_ ? *player_ : content_; }
-  bool IsRemoved(const ContentPath& path);
+  // As DiskTree::Look, of the player's folder alone and of the mark that hides the tree's file.
+  int LookAtPlayers(const ContentPath& path);
+  int LookAtMarker(const ContentPath& path);
 
   Faults& faults_;
   DiskSteps steps_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cerrno>
 #include <functional>
 #include <string_view>
 #include <utility>
@@ -18,10 +19,12 @@ class DiskSteps {
 
   void Watch(Watcher watcher) { watcher_ = std::move(watcher); }
 
-  // Whether the operation may go on.
-  bool Allows(std::string_view operation) {
-    if (watcher_) watcher_(operation);
-    return !faults_.Fails(operation);
+  // Whether the operation may go on; errno tells why not.
+  bool Allows(Operation operation) {
+    if (watcher_) watcher_(operation.Name());
+    if (!faults_.Fails(operation)) return true;
+    errno = EIO;
+    return false;
   }
 
  private:

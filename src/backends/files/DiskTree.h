@@ -22,14 +22,15 @@ class DiskTree {
   // tree and its line writers.
   DiskTree(std::string root, DiskSteps& steps) : index_(std::move(root)), steps_(steps) {}
 
-  // A regular file is there, readable or not.
-  bool Exists(const ContentPath& path);
-  // The whole file; nothing when it is missing, can't be read or is larger than 256 MB.
-  std::optional<std::string> Read(const ContentPath& path);
+  // 0 when a regular file is there, readable or not; else the system's error, which need not mean
+  // that it is missing.
+  int Look(const ContentPath& path);
+  // The whole file; one that is larger than 256 MB is an error.
+  FileAnswer Read(const ContentPath& path);
   // Replaces or creates the file as a whole, with the folders it needs.
-  bool Write(const ContentPath& path, std::string_view bytes);
-  // Deletes the file if it exists. False when it exists and could not be deleted.
-  bool Remove(const ContentPath& path);
+  FileChange Write(const ContentPath& path, std::string_view bytes);
+  // Deletes the file if it exists.
+  FileChange Remove(const ContentPath& path);
   std::unique_ptr<LineWriter> CreateLineFile(const ContentPath& path);
   // False when the folder is there and the system keeps us from writing into it.
   bool IsWritable() const;
@@ -40,7 +41,14 @@ class DiskTree {
     std::string folder;  // below the root
     std::string name;
   };
-  Descriptor OpenFile(const ContentPath& path, int flags);
+  struct Opened {
+    Descriptor file;
+    int error = 0;
+  };
+  Opened OpenFile(const ContentPath& path, int flags);
+  int Replace(const ContentPath& path, std::string_view bytes);
+  int Delete(const ContentPath& path);
+  // Both give nothing with errno when it can't be had.
   std::optional<Spot> SpotFor(const ContentPath& path);
   std::optional<std::string> MakeFolders(std::span<const std::string> path);
   bool MakeFolder(const std::string& parent, const std::string& name);

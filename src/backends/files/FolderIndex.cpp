@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 
 #include "backends/files/Descriptor.h"
@@ -35,10 +36,14 @@ struct CloseListing {
   void operator()(DIR* listing) const { closedir(listing); }
 };
 
+// Nothing with errno when the path leads nowhere.
 std::optional<std::string> RealPath(const std::string& path) {
   std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
   return real ? std::optional<std::string>(real.get()) : std::nullopt;
 }
+
+// What lies behind an error is missing, or it can't be told.
+bool IsOpen(int error) { return error != 0 && !MeansMissing(error); }
 
 unsigned char TypeOf(mode_t mode) {
   if (S_ISREG(mode)) return DT_REG;
@@ -51,12 +56,12 @@ std::string NativeJoin(const std::string& folder, const std::string& name) {
   return folder.empty() ? name : folder + "/" + name;
 }
 
-std::optional<std::string> FolderIndex::FindFile(std::span<const std::string> path) {
+FolderIndex::Found FolderIndex::FindFile(std::span<const std::string> path) {
   return Find("", path, false);
 }
 
-std::optional<std::string> FolderIndex::FindFolder(std::span<const std::string> path) {
-  if (path.empty()) return "";
+FolderIndex::Found FolderIndex::FindFolder(std::span<const std::string> path) {
+  if (path.empty()) return {};
   return Find("", path, true);
 }
 
@@ -64,37 +69,39 @@ const std::vector<std::string>& FolderIndex::Leftovers(const std::string& folder
   return Known(folder).leftovers;
 }
 
-std::optional<std::string> FolderIndex::Find(const std::string& folder,
-                                             std::span<const std::string> path, bool want_folder) {
+FolderIndex::Found FolderIndex::Find(const std::string& folder, std::span<const std::string> path,
+                                     bool want_folder) {
   const std::string key = FoldCase(path.front());
   Folder* known = &Known(folder);
   for (bool again = false;; again = true) {
     auto found = known->entries.find(key);
     if (found != known->entries.end()) {
       Namesakes namesakes = found->second;
-      if (auto real = FindAmong(*namesakes, path, want_folder)) return real;
+      Found real = FindAmong(*namesakes, path, want_folder);
+      if (real || IsOpen(real.error)) return real;
     }
-    if (again) return std::nullopt;
     known = &Known(folder);
-    if (!HasChanged(folder, *known)) return std::nullopt;
+    if (again) return {"", IsOpen(known->error) ? known->error : ENOENT};
+    if (!IsOpen(known->error) && !HasChanged(folder, *known)) return {"", ENOENT};
     *known = ReadFolder(folder);
   }
 }
 
 // Tries the exact name, then the others: a folder that lacks the rest of the path isn't the end.
-std::optional<std::string> FolderIndex::FindAmong(const std::vector<Entry>& namesakes,
-                                                  std::span<const std::string> path,
-                                                  bool want_folder) {
+FolderIndex::Found FolderIndex::FindAmong(const std::vector<Entry>& namesakes,
+                                          std::span<const std::string> path, bool want_folder) {
   const bool last = path.size() == 1;
   for (bool exact : {true, false}) {
     for (const Entry& entry : namesakes) {
       if ((entry.name == path.front()) != exact) continue;
+      if (entry.error != 0) return {"", entry.error};
       if (entry.is_folder != (!last || want_folder)) continue;
-      if (last) return entry.real;
-      if (auto real = Find(entry.real, path.subspan(1), want_folder)) return real;
+      if (last) return {entry.real};
+      Found real = Find(entry.real, path.subspan(1), want_folder);
+      if (real || IsOpen(real.error)) return real;
     }
   }
-  return std::nullopt;
+  return {"", ENOENT};
 }
 
 FolderIndex::Folder& FolderIndex::Known(const std::string& folder) {
@@ -105,7 +112,9 @@ FolderIndex::Folder& FolderIndex::Known(const std::string& folder) {
 
 bool FolderIndex::HasChanged(const std::string& folder, const Folder& known) const {
   struct stat status {};
-  if (stat(NativeJoin(root_, folder).c_str(), &status) != 0) return !known.entries.empty();
+  if (stat(NativeJoin(root_, folder).c_str(), &status) != 0) {
+    return !known.entries.empty() || IsOpen(errno);
+  }
   return !known.settled || !IsSame(status.st_mtim, known.changed);
 }
 
@@ -113,15 +122,24 @@ FolderIndex::Folder FolderIndex::ReadFolder(const std::string& folder) const {
   Folder result;
   Descriptor opened = OpenBelow(root_, folder, O_RDONLY | O_DIRECTORY);
   struct stat status {};
-  if (!opened || fstat(opened.Number(), &status) != 0) return result;
+  if (!opened || fstat(opened.Number(), &status) != 0) {
+    result.error = errno;
+    return result;
+  }
   result.changed = status.st_mtim;
   result.settled = IsSettled(status.st_mtim);
   std::unique_ptr<DIR, CloseListing> listing(fdopendir(opened.Number()));
-  if (!listing) return result;
+  if (!listing) {
+    result.error = errno;
+    return result;
+  }
   opened.Release();  // the listing closes it
 
   std::unordered_map<std::string, std::vector<Entry>> entries;
-  while (const dirent* item = readdir(listing.get())) {
+  while (true) {
+    errno = 0;
+    const dirent* item = readdir(listing.get());
+    if (item == nullptr) break;
     const std::string name = item->d_name;
     if (name == "." || name == "..") continue;
     if (name.starts_with(kTemporaryPrefix)) {
@@ -130,6 +148,7 @@ FolderIndex::Folder FolderIndex::ReadFolder(const std::string& folder) const {
       entries[FoldCase(entry->name)].push_back(std::move(*entry));
     }
   }
+  result.error = errno;
   for (auto& [key, namesakes] : entries) {
     std::ranges::sort(namesakes, {}, &Entry::name);
     result.entries.emplace(key, std::make_shared<const std::vector<Entry>>(std::move(namesakes)));
@@ -142,11 +161,13 @@ std::optional<FolderIndex::Entry> FolderIndex::Classify(int folder_number,
                                                         const std::string& folder,
                                                         const std::string& name,
                                                         unsigned char type) const {
-  Entry entry{ContentName(name), name, NativeJoin(folder, name), false};
+  Entry entry{ContentName(name), name, NativeJoin(folder, name)};
   if (type == DT_UNKNOWN) {  // some file systems leave it to us to ask
     struct stat status {};
     if (fstatat(folder_number, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
-      return std::nullopt;
+      if (!IsOpen(errno)) return std::nullopt;
+      entry.error = errno;
+      return entry;
     }
     type = S_ISLNK(status.st_mode) ? static_cast<unsigned char>(DT_LNK) : TypeOf(status.st_mode);
   }
@@ -158,9 +179,14 @@ std::optional<FolderIndex::Entry> FolderIndex::Classify(int folder_number,
 
 std::optional<FolderIndex::Entry> FolderIndex::FollowLink(Entry entry) const {
   std::optional<std::string> root = RealPath(root_);
-  std::optional<std::string> target = RealPath(NativeJoin(root_, entry.real));
+  std::optional<std::string> target;
+  if (root) target = RealPath(NativeJoin(root_, entry.real));
   struct stat status {};
-  if (!root || !target || lstat(target->c_str(), &status) != 0) return std::nullopt;
+  if (!target || lstat(target->c_str(), &status) != 0) {
+    if (!IsOpen(errno)) return std::nullopt;
+    entry.error = errno;
+    return entry;
+  }
   if (!root->ends_with('/')) *root += '/';
   if (!target->starts_with(*root) || TypeOf(status.st_mode) == DT_UNKNOWN) return std::nullopt;
   entry.real = target->substr(root->size());
@@ -170,7 +196,7 @@ std::optional<FolderIndex::Entry> FolderIndex::FollowLink(Entry entry) const {
 
 void FolderIndex::NoteFile(const std::string& folder, const std::string& name) {
   NoteRemoved(folder, name);
-  Entry entry{ContentName(name), name, NativeJoin(folder, name), false};
+  Entry entry{ContentName(name), name, NativeJoin(folder, name)};
   Namesakes& namesakes = Known(folder).entries[FoldCase(entry.name)];
   std::vector<Entry> changed = namesakes ? *namesakes : std::vector<Entry>();
   changed.push_back(std::move(entry));

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace quendle {
@@ -23,10 +24,17 @@ class FolderIndex {
   explicit FolderIndex(std::string root) : root_(std::move(root)) {}
 
   const std::string& Root() const { return root_; }
-  // The file of that path: its native path below the root, free of links. Nothing without one.
-  std::optional<std::string> FindFile(std::span<const std::string> path);
+  // What a lookup gave: the native path below the root, free of links, or the system's error.
+  struct Found {
+    std::string path;
+    int error = 0;
+    explicit operator bool() const { return error == 0; }
+  };
+  // The file of that path. An error that doesn't mean that it is missing leaves open whether there
+  // is one: a folder on the way couldn't be read.
+  Found FindFile(std::span<const std::string> path);
   // The same for a folder; the empty path is the root.
-  std::optional<std::string> FindFolder(std::span<const std::string> path);
+  Found FindFolder(std::span<const std::string> path);
   // Names of unfinished temporary files seen in a folder (native path below the root).
   const std::vector<std::string>& Leftovers(const std::string& folder);
 
@@ -45,19 +53,20 @@ class FolderIndex {
     std::string disk_name;
     std::string real;  // native path below the root
     bool is_folder = false;
+    int error = 0;  // of a link that can't be followed: what it leads to isn't known
   };
   using Namesakes = std::shared_ptr<const std::vector<Entry>>;  // shared: a walk outlives a reread
   struct Folder {
     std::unordered_map<std::string, Namesakes> entries;  // by name in small letters
     std::vector<std::string> leftovers;
+    int error = 0;  // of the reading: there may be more names than are known
     timespec changed{};
     bool settled = false;  // the time of change would differ after one more change
   };
 
-  std::optional<std::string> Find(const std::string& folder, std::span<const std::string> path,
-                                  bool want_folder);
-  std::optional<std::string> FindAmong(const std::vector<Entry>& namesakes,
-                                       std::span<const std::string> path, bool want_folder);
+  Found Find(const std::string& folder, std::span<const std::string> path, bool want_folder);
+  Found FindAmong(const std::vector<Entry>& namesakes, std::span<const std::string> path,
+                  bool want_folder);
   Folder& Known(const std::string& folder);
   bool HasChanged(const std::string& folder, const Folder& known) const;
   Folder ReadFolder(const std::string& folder) const;

@@ -4,10 +4,11 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "platform/Faults.h"
 
 namespace quendle {
 namespace {
+
+constexpr const char* kPlanned = "Input/output error";
 
 std::string Joined(const ContentPath& path, std::size_t count) {
   std::string joined;
@@ -66,33 +67,35 @@ bool MemoryFileSystem::Exists(std::string_view path) {
   return split && Find(*split) != nullptr;
 }
 
-std::optional<std::string> MemoryFileSystem::Read(std::string_view path) {
+FileAnswer MemoryFileSystem::Read(std::string_view path) {
   Note("read", path);
   std::optional<ContentPath> split = SplitContentPath(path, base_directory_);
-  if (!split || Fails("read")) return std::nullopt;
+  if (!split) return FileAnswer();
+  if (Fails("read")) return FileAnswer::Error(kPlanned);
   const File* file = Find(*split);
-  return file == nullptr ? std::nullopt : std::optional(*file->bytes);
+  return file == nullptr ? FileAnswer() : FileAnswer(*file->bytes);
 }
 
-bool MemoryFileSystem::Write(std::string_view path, std::string_view bytes) {
+FileChange MemoryFileSystem::Write(std::string_view path, std::string_view bytes) {
   Note("write", path);
   std::optional<ContentPath> split = SplitContentPath(path, base_directory_);
-  if (!split || !CanStand(*split) || FailsBeforeRename()) return false;
+  if (!split || !CanStand(*split)) return FileChange::Failed("no file can stand there");
+  if (FailsBeforeRename()) return FileChange::Failed(kPlanned);
   File* old = Find(*split);
   (old == nullptr ? Add(*split) : *old).bytes = std::make_shared<std::string>(bytes);
-  return !Fails("flushfolder");
+  return Fails("flushfolder") ? FileChange::Failed(kPlanned) : FileChange::Done();
 }
 
-bool MemoryFileSystem::Remove(std::string_view path) {
+FileChange MemoryFileSystem::Remove(std::string_view path) {
   Note("remove", path);
   std::optional<ContentPath> split = SplitContentPath(path, base_directory_);
   const File* file = split ? Find(*split) : nullptr;
-  if (file == nullptr) return true;
-  if (Fails("remove")) return false;
+  if (file == nullptr) return FileChange::Done();
+  if (Fails("remove")) return FileChange::Failed(kPlanned);
   auto found = files_.find(KeyOf(*split));
   found->second.erase(found->second.begin() + (file - found->second.data()));
   if (found->second.empty()) files_.erase(found);
-  return true;
+  return FileChange::Done();
 }
 
 std::unique_ptr<LineWriter> MemoryFileSystem::CreateLineFile(std::string_view path) {
@@ -131,7 +134,7 @@ std::vector<std::string> MemoryFileSystem::Paths() const {
   return paths;
 }
 
-bool MemoryFileSystem::Fails(std::string_view operation) {
+bool MemoryFileSystem::Fails(quendle::Operation operation) {
   return faults_ != nullptr && faults_->Fails(operation);
 }
 

@@ -9,11 +9,10 @@
 #include <vector>
 
 #include "backends/files/ContentPath.h"
+#include "platform/Faults.h"
 #include "platform/FileSystem.h"
 
 namespace quendle {
-
-class Faults;
 
 // A content tree in memory, with the rules of the disk: case, refused paths, failing operations.
 // A copy is independent of its source, shares the bytes until one of the two writes, and is cheap.
@@ -35,9 +34,9 @@ class MemoryFileSystem : public FileSystem {
       : base_directory_(std::move(base_directory)), faults_(faults) {}
 
   bool Exists(std::string_view path) override;
-  std::optional<std::string> Read(std::string_view path) override;
-  bool Write(std::string_view path, std::string_view bytes) override;
-  bool Remove(std::string_view path) override;
+  FileAnswer Read(std::string_view path) override;
+  FileChange Write(std::string_view path, std::string_view bytes) override;
+  FileChange Remove(std::string_view path) override;
   std::unique_ptr<LineWriter> CreateLineFile(std::string_view path) override;
 
   // Places a file under exactly this name, past all faults; the base directory may be left out. A
@@ -63,7 +62,7 @@ class MemoryFileSystem : public FileSystem {
   // Files whose paths differ by case only.
   using Namesakes = std::vector<File>;
 
-  bool Fails(std::string_view operation);
+  bool Fails(quendle::Operation operation);
   bool FailsBeforeRename();
   void Note(const char* operation, std::string_view path);
   ContentPath SplitLoosely(std::string_view path) const;

@@ -25,15 +25,15 @@ std::uint8_t MixByte(int a, int b, double part) {
 }
 
 // The edges of the closed outlines in pixels.
-std::vector<Edge> EdgesOf(const Path& path, double scale, Vec origin) {
+std::vector<Edge> EdgesOf(const Path& path, double scale) {
   std::vector<Edge> edges;
   for (const Path::Contour& contour : path.Contours()) {
     std::size_t count = contour.points.size();
     for (std::size_t i = 0; i < count; ++i) {
       const Vec& from = contour.points[i];
       const Vec& to = contour.points[(i + 1) % count];
-      Vec a{(from.x + origin.x) * scale, (from.y + origin.y) * scale};
-      Vec b{(to.x + origin.x) * scale, (to.y + origin.y) * scale};
+      Vec a{from.x * scale, from.y * scale};
+      Vec b{to.x * scale, to.y * scale};
       if (a.y == b.y) continue;
       if (a.y < b.y) {
         edges.push_back({a, b, 1});
@@ -130,10 +130,10 @@ void Canvas::Stroke(const Path& path, double width, Rgba color) {
 }
 
 void Canvas::FillRect(double x, double y, double width, double height, Rgba color) {
-  auto left = static_cast<int>(std::lround((x + origin_.x) * scale_));
-  auto top = static_cast<int>(std::lround((y + origin_.y) * scale_));
-  auto right = static_cast<int>(std::lround((x + width + origin_.x) * scale_));
-  auto bottom = static_cast<int>(std::lround((y + height + origin_.y) * scale_));
+  auto left = static_cast<int>(std::lround(x * scale_));
+  auto top = static_cast<int>(std::lround(y * scale_));
+  auto right = static_cast<int>(std::lround((x + width) * scale_));
+  auto bottom = static_cast<int>(std::lround((y + height) * scale_));
   for (int row = std::max(top, 0); row < std::min(bottom, size_.height); ++row) {
     for (int column = std::max(left, 0); column < std::min(right, size_.width); ++column) {
       Blend(column, row, color, 255);
@@ -159,7 +159,7 @@ Rgba Canvas::At(double x, double y) const {
 }
 
 void Canvas::FillWith(const Path& path, const Shade& shade) {
-  std::vector<Edge> edges = EdgesOf(path, scale_, origin_);
+  std::vector<Edge> edges = EdgesOf(path, scale_);
   if (edges.empty()) return;
   double top = edges.front().upper.y;
   double bottom = edges.front().lower.y;
@@ -185,7 +185,7 @@ void Canvas::FillWith(const Path& path, const Shade& shade) {
       }
       AddLine(coverage, crossings);
     }
-    double height = (row + 0.5) / scale_ - origin_.y;
+    double height = (row + 0.5) / scale_;
     double part = std::clamp((height - shade.from_y) / (shade.to_y - shade.from_y), 0.0, 1.0);
     Rgba color = Mix(shade.top, shade.bottom, part);
     for (int x = 0; x < size_.width; ++x) {

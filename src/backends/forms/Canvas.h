@@ -26,7 +26,7 @@ constexpr Rgba Hex(std::uint32_t rgb, int alpha = 255) {
 Rgba Mix(Rgba a, Rgba b, double part);
 
 // An opaque picture that shapes are painted on with smooth edges. Shapes are given in form units,
-// `scale` pixels each, shifted by the origin.
+// `scale` pixels each.
 class Canvas {
  public:
   // A picture of `size` pixels, white.
@@ -34,9 +34,6 @@ class Canvas {
 
   Size PixelSize() const { return size_; }
   double Scale() const { return scale_; }
-  // Shifts what is drawn from now on, in form units.
-  void SetOrigin(Vec origin) { origin_ = origin; }
-  Vec Origin() const { return origin_; }
 
   // Shapes change only pixels within `area` (form units, from the form's corner) until the clip is
   // lifted again.
@@ -74,7 +71,6 @@ class Canvas {
 
   Size size_;
   double scale_;
-  Vec origin_;
   Rect clip_;
   std::vector<std::uint32_t> pixels_;
 };

@@ -5,7 +5,7 @@
 
 #include "backends/forms/FormPointer.h"
 #include "backends/forms/ScrollBar.h"
-#include "backends/forms/Utf8Text.h"
+#include "base/Text.h"
 
 namespace quendle {
 namespace {
@@ -86,7 +86,7 @@ void FormInput::Key(FormKey key) {
 void FormInput::Type(std::string_view text) {
   Control* field = TextField();
   if (field == nullptr) return;
-  std::string typed = FromUtf8(text);
+  std::string typed = FromUtf8LeavingOut(text);
   if (field->text.size() + typed.size() <= kLongestText) field->text += typed;
 }
 

@@ -33,6 +33,7 @@ class FormInput {
   // A dropped file (UTF-8 path): to the text field, else to the form.
   void Drop(const std::string& native_path);
   void Close() { events_.QueryClose(); }
+  void EndProgram() { events_.EndProgram(); }
   // Forgets pointer and push: the form left the screen.
   void Reset() {
     look_ = {};

@@ -5,7 +5,7 @@
 
 #include "backends/forms/BoxParts.h"
 #include "backends/forms/PicturePainter.h"
-#include "backends/forms/Utf8Text.h"
+#include "base/Text.h"
 
 namespace quendle {
 namespace {
@@ -80,7 +80,8 @@ void PictureChooser::OpenFolder(const std::filesystem::path& folder) {
   folder_ = folder;
   entries_ = ListFolder(folder_, patterns_);
   marked_.reset();
-  form_.Find("folder")->text = Shortened(FromUtf8(folder_.string()), kLongestFolder, true);
+  form_.Find("folder")->text =
+      Shortened(FromUtf8LeavingOut(folder_.string()), kLongestFolder, true);
   const int rows = (static_cast<int>(entries_.size()) + kColumns - 1) / kColumns;
   Control& bar = *form_.Find("VScroll1");
   bar.maximum = std::max(rows - kRows, 0);
@@ -127,7 +128,7 @@ void PictureChooser::ShowTile(int tile, std::size_t entry) {
   const Rect room =
       InMiddle({place.left, place.top + 14, place.right, place.bottom - 20}, kThumbnail);
   const bool above = entry == 0 && file.folder && file.path == folder_.parent_path();
-  const std::string text = FromUtf8(file.path.filename().string());
+  const std::string text = FromUtf8LeavingOut(file.path.filename().string());
   name.text = above ? "(folder above)" : Shortened(text, kLongestName, false);
   name.area = {place.left + 10, place.bottom - 22, place.right - 4, place.bottom - 4};
   image.picture = file.folder ? "folder" : "";

@@ -46,8 +46,8 @@ std::uint32_t Mean(const Picture& picture, const Block& columns, const Block& ro
 void DrawPicture(Canvas& canvas, const Picture& picture, const Rect& area) {
   if (picture.Empty()) return;
   const double scale = canvas.Scale();
-  const auto left = static_cast<int>(std::lround((area.left + canvas.Origin().x) * scale));
-  const auto top = static_cast<int>(std::lround((area.top + canvas.Origin().y) * scale));
+  const auto left = static_cast<int>(std::lround(area.left * scale));
+  const auto top = static_cast<int>(std::lround(area.top * scale));
   const auto width = static_cast<int>(std::lround(area.Width() * scale));
   const auto height = static_cast<int>(std::lround(area.Height() * scale));
   const Rect seen = canvas.PixelClip();

@@ -79,8 +79,8 @@ void TextPainter::Draw(Canvas& canvas, std::string_view text, const TextStyle& s
                        double y) {
   if (!HasFont() || text.empty()) return;
   const LetterPicture letters = fonts_.Draw(text, SizeAt(style, canvas.Scale()), style.underline);
-  auto left = static_cast<int>(std::lround((x + canvas.Origin().x) * canvas.Scale()));
-  auto top = static_cast<int>(std::lround((y + canvas.Origin().y) * canvas.Scale()));
+  auto left = static_cast<int>(std::lround(x * canvas.Scale()));
+  auto top = static_cast<int>(std::lround(y * canvas.Scale()));
   auto covered = letters.coverage.begin();
   for (int row = 0; row < letters.size.height; ++row) {
     for (int column = 0; column < letters.size.width; ++column, ++covered) {

@@ -111,6 +111,13 @@ bool HeadlessFormHost::Close() {
   return true;
 }
 
+bool HeadlessFormHost::EndProgram() {
+  const Entry* entry = Front();
+  if (entry == nullptr) return false;
+  entry->events->EndProgram();
+  return true;
+}
+
 const HeadlessFormHost::Entry* HeadlessFormHost::Front() const {
   const Entry* front = nullptr;
   for (const Entry& entry : entries_) {

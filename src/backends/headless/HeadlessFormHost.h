@@ -33,6 +33,8 @@ class HeadlessFormHost : public FormHost {
   bool Key(FormKey key);
   bool Drop(const std::string& native_path);
   bool Close();
+  // The system wants the program to end while the form in view stands.
+  bool EndProgram();
 
  private:
   struct Entry {

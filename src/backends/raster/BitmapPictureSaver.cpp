@@ -7,8 +7,8 @@ namespace quendle {
 
 bool BitmapPictureSaver::SavePicture(const std::string& path, const Picture& picture) {
   if (picture.Empty()) return false;
-  return files_.Write(
-      path, WriteBitmapFile(picture.size.width, picture.size.height, picture.words.data()));
+  return static_cast<bool>(files_.Write(
+      path, WriteBitmapFile(picture.size.width, picture.size.height, picture.words.data())));
 }
 
 }  // namespace quendle

@@ -1,6 +1,7 @@
 #include "backends/raster/BitmapReader.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 

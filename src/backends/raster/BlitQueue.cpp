@@ -1,6 +1,7 @@
 #include "backends/raster/BlitQueue.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "backends/raster/BlockCopy.h"

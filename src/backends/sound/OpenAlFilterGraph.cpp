@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <thread>
+#include <utility>
 
 #include "backends/sound/OpenAlFilterGraphs.h"
 

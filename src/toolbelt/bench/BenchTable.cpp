@@ -11,6 +11,7 @@
 
 #include "backends/raster/RasterSurface.h"
 #include "base/FatalError.h"
+#include "base/PlayerFiles.h"
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
 #include "toolbelt/Json.h"
@@ -27,7 +28,6 @@ constexpr int kEvents = 5000;
 constexpr int kCachedChanges = 100;
 constexpr int kSaves = 20;
 constexpr int kChains = 60;
-constexpr const char* kSavedGame = "userdata.txt";
 
 // Wall time of one call, in microseconds.
 double Time(int calls, const std::function<void()>& work) {
@@ -108,10 +108,11 @@ void TimeFrames(DriveSession& session, Table& table) {
 void TimeSavedGame(DriveSession& session, Table& table) {
   table.Begin("saved game");
   ScreenKeeper& keeper = *session.Logic().Keeper();
-  table.Row("saved game, written", Time(kSaves, [&] { keeper.SaveGame(kSavedGame); }) / 1000, "ms");
+  table.Row("saved game, written", Time(kSaves, [&] { keeper.SaveGame(kSavedGameFile); }) / 1000,
+            "ms");
   const double read = Time(kSaves, [&] {
     ScreenKeeper fresh(session.World().objects);
-    fresh.LoadGame(kSavedGame);
+    fresh.LoadGame(kSavedGameFile);
     if (fresh.Mementos().Empty()) throw std::runtime_error("the saved game can't be read back");
   });
   table.Row("saved game, read", read / 1000, "ms");

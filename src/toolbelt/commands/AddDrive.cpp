@@ -38,6 +38,9 @@ void AddDrive(CLI::App& belt, int& exit_code) {
       ->option_text("DIR");
   AddEditionAndSeed(*command, options);
   AddDrawingPath(*command, *path);
+  command->add_flag("--forgiving", options.forgiving,
+                    "As for a family at home: good saves are kept, and a saved game that can't be "
+                    "read gives way to one of them");
   command->add_flag("--other-instance", options.other_instance, "Another instance runs already");
   command->add_option("--system", options.system_version, "Major version of the system")
       ->option_text("N");

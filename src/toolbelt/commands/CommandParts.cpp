@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "toolbelt/Utf8.h"
+#include "base/Text.h"
 
 namespace quendle {
 

@@ -1,5 +1,6 @@
 #include "toolbelt/drive/Arguments.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 

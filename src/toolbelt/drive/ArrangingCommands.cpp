@@ -4,6 +4,7 @@
 
 #include "base/FatalError.h"
 #include "base/Text.h"
+#include "platform/Faults.h"
 #include "toolbelt/drive/DriveCommand.h"
 
 namespace quendle {
@@ -12,31 +13,14 @@ namespace {
 constexpr std::size_t kHelpWidth = 90;
 constexpr long kMostCalls = 1000000000;
 
-// Every operation that the platform of a session asks about before it carries it out.
-const std::vector<std::string>& OperationsThatCanFail() {
-  static const std::vector<std::string> kOperations = {
-      // the display
-      "Create", "SetDisplayMode", "SetCooperativeLevel", "CreatePrimarySurface", "CreateSurface",
-      "GetPixelFormat", "SetColorKey", "Blt", "GetDC", "ReleaseDC", "Restore", "TestMode",
-      "SetMode",
-      // contexts and bitmaps
-      "LoadImageA", "CreateCompatibleDC", "CreateCompatibleBitmap", "CreateMonochromeBitmap",
-      "SelectObject", "GetObjectA", "BitBlt", "TransparentBlt",
-      // the window and the players
-      "ReplaceWindowProc", "CreateGraph", "RenderFile",
-      // files
-      "read", "makefolder", "open", "write", "writepart", "flush", "rename", "flushfolder",
-      "remove", "writeline"};
-  return kOperations;
-}
-
 std::string ReadOperation(Arguments& arguments) {
   const std::string word = arguments.Word();
-  for (const std::string& operation : OperationsThatCanFail()) {
-    if (EqualsNoCase(operation, word)) return operation;
+  for (std::string_view operation : kOperationsThatCanFail) {
+    if (EqualsNoCase(operation, word)) return std::string(operation);
   }
-  arguments.Refuse("there is no operation \"" + word + "\"" +
-                   DidYouMean(word, OperationsThatCanFail()));
+  const std::vector<std::string> known(kOperationsThatCanFail.begin(),
+                                       kOperationsThatCanFail.end());
+  arguments.Refuse("there is no operation \"" + word + "\"" + DidYouMean(word, known));
 }
 
 Json Random(DriveSession& session, Arguments& arguments) {
@@ -86,9 +70,9 @@ Json Fail(DriveSession& session, Arguments& arguments) {
 std::string FaultHelp() {
   std::string help = "Operations that can fail:";
   std::size_t column = help.size();
-  for (const std::string& operation : OperationsThatCanFail()) {
+  for (std::string_view operation : kOperationsThatCanFail) {
     const bool full = column + operation.size() + 1 > kHelpWidth;
-    help += (full ? "\n  " : " ") + operation;
+    help.append(full ? "\n  " : " ").append(operation);
     column = (full ? 2 : column + 1) + operation.size();
   }
   return help + "\n";

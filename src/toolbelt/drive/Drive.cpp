@@ -1,5 +1,6 @@
 #include "toolbelt/drive/Drive.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -10,7 +11,6 @@
 #include "backends/files/DiskFileSystem.h"
 #include "base/FatalError.h"
 #include "base/Text.h"
-#include "toolbelt/Utf8.h"
 #include "toolbelt/drive/DriveCommand.h"
 #include "toolbelt/drive/Views.h"
 

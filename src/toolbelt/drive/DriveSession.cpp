@@ -12,6 +12,7 @@ DriveSession::DriveSession(FileSystem& files, Faults& faults, const std::string&
     : platform_(files, faults, options.seed),
       game_(platform_.ports, options.edition, base_directory) {
   if (options.tester) game_.SetTester({*options.tester, options.seed, options.content_hash});
+  game_.SetForgiving(options.forgiving);
   if (options.window_path) faults.Plan("Create", 0, 0, false);
   platform_.system.SetOtherInstance(options.other_instance);
   if (options.system_version) platform_.system.SetMajorVersion(*options.system_version);

@@ -20,6 +20,7 @@ class RasterBitmap;
 struct DriveOptions {
   std::int16_t edition = 2;
   std::uint64_t seed = 1;
+  bool forgiving = false;    // as for a family at home
   bool window_path = false;  // the first drawing path fails at start-up
   bool other_instance = false;
   std::optional<int> system_version;

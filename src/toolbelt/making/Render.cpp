@@ -13,7 +13,6 @@
 #include "object/GameObject.h"
 #include "toolbelt/PngFile.h"
 #include "toolbelt/Progress.h"
-#include "toolbelt/Utf8.h"
 #include "toolbelt/drive/Arguments.h"
 #include "toolbelt/drive/ObjectPath.h"
 #include "toolbelt/drive/Views.h"

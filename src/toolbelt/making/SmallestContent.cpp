@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
+#include <utility>
 
 #include "backends/raster/BitmapWriter.h"
 #include "logic/IllnessFiles.h"

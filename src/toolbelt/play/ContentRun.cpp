@@ -6,19 +6,14 @@
 #include <stdexcept>
 
 #include "base/FatalError.h"
+#include "base/PlayerFiles.h"
 #include "base/Text.h"
 #include "logic/GameLogicLayer.h"
-#include "toolbelt/Utf8.h"
 #include "toolbelt/drive/Arguments.h"
 #include "toolbelt/drive/Drive.h"
 
 namespace quendle {
 namespace {
-
-// Everything that a run writes beside the executable and reads at its start.
-constexpr const char* kLeftByPlayers[] = {
-    "userdata.txt",    "autosave.txt",        "HelpSys.txt",      "GameRunning.txt", "GameMode.txt",
-    "Personalize.txt", "DifficultyLevel.txt", "GraphicsMode.txt", "DialogMode.txt"};
 
 // A folder that isn't a content tree is told as that, not by the first file that it lacks.
 void RequireContent(const std::string& folder) {
@@ -39,7 +34,7 @@ ContentRun::ContentRun(const std::string& content, const DriveOptions& options)
       files_({base_, user_.Path(), ""}, faults_),
       session_(files_, faults_, base_, options) {
   RequireContent(base_);
-  for (const char* name : kLeftByPlayers) {
+  for (const char* name : kPlayerFiles) {
     const std::string path = base_ + "\\" + name;
     if (files_.Exists(path)) files_.Remove(path);
   }

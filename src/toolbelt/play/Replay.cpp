@@ -1,5 +1,6 @@
 #include "toolbelt/play/Replay.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -16,7 +17,6 @@
 #include "diagnostics/UserActionObj.h"
 #include "toolbelt/Progress.h"
 #include "toolbelt/TemporaryFolder.h"
-#include "toolbelt/Utf8.h"
 #include "toolbelt/drive/Drive.h"
 
 namespace quendle {

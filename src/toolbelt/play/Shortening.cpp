@@ -1,6 +1,7 @@
 #include "toolbelt/play/Shortening.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quendle {
 namespace {

@@ -1,5 +1,6 @@
 #include "toolbelt/play/Walk.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>

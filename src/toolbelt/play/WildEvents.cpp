@@ -1,5 +1,7 @@
 #include "toolbelt/play/WildEvents.h"
 
+#include <algorithm>
+
 #include "logic/GameLogicLayer.h"
 #include "toolbelt/drive/DriveSession.h"
 

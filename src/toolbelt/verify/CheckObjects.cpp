@@ -1,6 +1,8 @@
 #include <optional>
 
 #include "base/Text.h"
+#include "logic/GameVerbs.h"
+#include "screens/ScreenNames.h"
 #include "toolbelt/verify/Checks.h"
 
 namespace quendle {
@@ -65,7 +67,7 @@ void CheckObjects(const CheckContext& context) {
       const bool placed = object->role == ModelRole::kGlobal && !object->parents.empty();
       if (!placed) CheckFirstState(context, *object, nullptr, object->name_place);
     }
-    if (object->IsType("menu") && !object->children.empty()) {
+    if (object->Class() == ObjectClass::kMenu && !object->children.empty()) {
       context.Tell(Check::kMenuChildren, *object, {object->file, 8},
                    "the menu \"" + object->name + "\" drops the children of its list");
     }
@@ -79,16 +81,17 @@ void CheckObjects(const CheckContext& context) {
       }
     }
   }
-  for (const char* name : {"introscreen", "tools", "cursors"}) {
+  for (const std::string_view name : kFixedScreens) {
     if (context.model.Screen(name) != nullptr) continue;
     context.findings.Add(Check::kNoFixedScreen, "", {"Info\\screens.txt", 0},
-                         std::string("there is no screen \"") + name + "\"" +
-                             DidYouMean(name, context.model.ScreenNames()));
+                         "there is no screen \"" + std::string(name) + "\"" +
+                             DidYouMean(std::string(name), context.model.ScreenNames()));
   }
-  if (context.model.Global("handcursor") == nullptr) {
+  const std::string hand = PointerNameOf(kBareHand);
+  if (context.model.Global(hand) == nullptr) {
     context.findings.Add(Check::kNoHand, "", {"Info\\globalgameobjects.txt", 0},
-                         "there is no global object \"handcursor\"" +
-                             DidYouMean("handcursor", context.model.GlobalNames()));
+                         "there is no global object \"" + hand + "\"" +
+                             DidYouMean(hand, context.model.GlobalNames()));
   }
 }
 

@@ -4,6 +4,10 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "logic/GameVerbs.h"
+#include "logic/ScreenMeaning.h"
+#include "object/DoctorStates.h"
+#include "object/SurgeryReset.h"
 #include "object/VerifyRules.h"
 #include "toolbelt/verify/Checks.h"
 #include "toolbelt/verify/ScriptWalk.h"
@@ -12,7 +16,7 @@ namespace quendle {
 namespace {
 
 bool IsPatient(const ModelObject& object) {
-  return object.IsType("patient") && !object.IsNamed("doctor");
+  return object.IsType("patient") && !object.IsNamed(kDoctorName);
 }
 
 // The tests of the engine's own check, in their order, each only if the one before passed.
@@ -83,59 +87,69 @@ void CheckRowOfStates(const CheckContext& context, const ModelObject& patient) {
   }
 }
 
-struct Sent {
-  const char* state;
-  bool applies;
+bool EntersHelp(const ContentModel& model, HelpPlace place) {
+  return std::ranges::any_of(model.screens, [&](const auto& screen) {
+    return screen->IsRoom() && HelpPlaceOf(screen->name) == place;
+  });
+}
+
+bool HasPatients(const ContentModel& model) {
+  return std::ranges::any_of(model.objects, [](const auto& o) { return IsPatient(*o); });
+}
+
+bool HasTools(const ContentModel& model) {
+  return std::ranges::any_of(model.globals, [](const auto& o) {
+    return o->Class() == ObjectClass::kTool && !o->IsNamed(ToolNameOf(kBareHand));
+  });
+}
+
+// When the game sends the doctor to a state, if the content ever brings it about.
+struct Occasion {
+  bool possible;
   const char* when;
 };
 
+Occasion OccasionOf(DoctorState state, const ContentModel& model) {
+  switch (state) {
+    case DoctorState::kTryAgain:
+      return {HasPatients(model), "a patient was hurt on Easy"};
+    case DoctorState::kStartOver:
+      return {HasPatients(model), "a patient was hurt"};
+    case DoctorState::kAlreadyHaveOne:
+      return {HasTools(model), "a tool is offered twice"};
+    case DoctorState::kTooMany:
+      return {HasTools(model), "the bar is full"};
+    case DoctorState::kHelpToolItem:
+      return {HasTools(model), "the first tool is won"};
+    case DoctorState::kHelpMedicalBook:
+      return {EntersHelp(model, HelpPlace::kMedicalBook), "floor1hall1 is entered"};
+    case DoctorState::kHelpElevator:
+      return {EntersHelp(model, HelpPlace::kElevator), "the elevator is entered"};
+    case DoctorState::kHelpToolRoom:
+      return {EntersHelp(model, HelpPlace::kToolRoom), "a room of tools is entered"};
+    case DoctorState::kHelpPatientRoom:
+      return {EntersHelp(model, HelpPlace::kPatientRoom), "a patient's room is entered"};
+  }
+  return {false, ""};
+}
+
 void CheckSentStates(const CheckContext& context, const ModelObject& doctor) {
   if (!doctor.states_known) return;
-  const ContentModel& model = context.model;
-  const bool patients =
-      std::ranges::any_of(model.objects, [](const auto& o) { return IsPatient(*o); });
-  const bool tools = std::ranges::any_of(
-      model.globals, [](const auto& o) { return o->IsType("tool") && !o->IsNamed("handtool"); });
-  const auto screen = [&](auto fits) {
-    return std::ranges::any_of(model.screens, [&](const auto& s) {
-      return !s->IsNamed("tools") && !s->IsNamed("cursors") && fits(s->name);
-    });
-  };
-  const auto holds = [](const std::string& name, const char* word) {
-    return ContainsNoCase(name, word);
-  };
-  const Sent sent[] = {
-      {"tryagain", patients, "a patient was hurt on Easy"},
-      {"startover", patients, "a patient was hurt"},
-      {"alreadyhaveone", tools, "a tool is offered twice"},
-      {"toomany", tools, "the bar is full"},
-      {"helptoolitem", tools, "the first tool is won"},
-      {"helpmedicalbook", model.Screen("floor1hall1") != nullptr, "floor1hall1 is entered"},
-      {"helpelevator", model.Screen("elevator") != nullptr, "the elevator is entered"},
-      {"helptoolroom", screen([&](const std::string& name) {
-         return holds(name, "empty") && !holds(name, "general");
-       }),
-       "a room of tools is entered"},
-      {"helppatientroom", screen([&](const std::string& name) {
-         return !holds(name, "empty") && !holds(name, "hall") && !holds(name, "elevator") &&
-                !holds(name, "screen");
-       }),
-       "a patient's room is entered"},
-  };
   const FilePlace place =
       doctor.states.empty() ? doctor.name_place : FilePlace{doctor.states.front().Place().file, 0};
-  for (const Sent& row : sent) {
-    if (!row.applies || doctor.State(row.state) != nullptr) continue;
+  for (const DoctorState state : kDoctorStates) {
+    const Occasion occasion = OccasionOf(state, context.model);
+    if (!occasion.possible || doctor.State(NameOf(state)) != nullptr) continue;
     context.Tell(Check::kDoctorState, doctor, place,
                  std::string("Did not find a valid object state: the game sends the doctor to \"") +
-                     row.state + "\" when " + row.when);
+                     NameOf(state) + "\" when " + occasion.when);
   }
 }
 
 // Without a doctor nobody tells a child that a treatment hurt.
 void CheckNoDoctor(const CheckContext& context) {
   for (const ModelObjectRef& object : context.model.objects) {
-    if (object->IsNamed("doctor")) return;
+    if (object->IsNamed(kDoctorName)) return;
   }
   for (const ModelObjectRef& object : context.model.objects) {
     if (!IsPatient(*object)) continue;
@@ -146,20 +160,24 @@ void CheckNoDoctor(const CheckContext& context) {
 
 void CheckSurgery(const CheckContext& context, const ModelObject& screen) {
   const ModelObject* machine = nullptr;
-  const char* stage = nullptr;
-  const char* patient = nullptr;
+  const SurgeryReset* wanted = nullptr;
   for (const ModelChild& child : screen.children) {
     if (child.object == nullptr) continue;
-    if (child.object->IsNamed("surgerymachine")) machine = child.object.get();
+    if (child.object->IsNamed(kSurgeryMachineName)) machine = child.object.get();
     if (!child.object->IsType("patient")) continue;
-    if (child.object->IsNamed("kangaroo")) stage = "tumorStage1", patient = "kangaroo";
-    if (child.object->IsNamed("scarecrow")) stage = "tonsilsStage1", patient = "scarecrow";
+    for (const SurgeryReset& reset : kSurgeryResets) {
+      if (child.object->IsNamed(reset.patient)) wanted = &reset;
+    }
   }
-  if (stage == nullptr) return;
-  if (machine != nullptr && (!machine->states_known || machine->State(stage) != nullptr)) return;
+  if (wanted == nullptr) return;
+  if (machine != nullptr &&
+      (!machine->states_known || machine->State(wanted->machine_state) != nullptr)) {
+    return;
+  }
   context.Tell(Check::kSurgery, screen, screen.name_place,
-               std::string("the patient \"") + patient + "\" needs a \"surgerymachine\" with a " +
-                   "state \"" + stage + "\" beside it");
+               "the patient \"" + std::string(wanted->patient) + "\" needs a \"" +
+                   std::string(kSurgeryMachineName) + "\" with a state \"" +
+                   std::string(wanted->machine_state) + "\" beside it");
 }
 
 }  // namespace
@@ -173,10 +191,10 @@ void CheckPatients(const CheckContext& context) {
         CheckTwin(context, check, *object, state);
       }
     }
-    if (object->IsNamed("doctor")) CheckDoctor(context, *object);
+    if (object->IsNamed(kDoctorName)) CheckDoctor(context, *object);
     CheckSurgery(context, *object);
   }
-  if (const ModelObject* doctor = context.model.Global("doctor")) {
+  if (const ModelObject* doctor = context.model.Global(kDoctorName)) {
     CheckSentStates(context, *doctor);
   } else {
     CheckNoDoctor(context);

@@ -1,7 +1,10 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "logic/ScreenMeaning.h"
+#include "object/DoctorStates.h"
 #include "platform/Geometry.h"
+#include "screens/ScreenNames.h"
 #include "toolbelt/verify/Checks.h"
 
 namespace quendle {
@@ -10,12 +13,8 @@ namespace {
 bool HoldsPatient(const ModelObject& screen) {
   return std::ranges::any_of(screen.children, [](const ModelChild& child) {
     return child.object != nullptr && child.object->IsType("patient") &&
-           !child.object->IsNamed("doctor");
+           !child.object->IsNamed(kDoctorName);
   });
-}
-
-bool HoldsAny(const std::string& name, std::initializer_list<std::string_view> words) {
-  return std::ranges::any_of(words, [&](std::string_view w) { return ContainsNoCase(name, w); });
 }
 
 void CheckName(const CheckContext& context, const ModelObject& screen) {
@@ -24,20 +23,19 @@ void CheckName(const CheckContext& context, const ModelObject& screen) {
     context.Tell(check, screen, screen.name_place, "the screen \"" + name + "\" " + text);
   };
   const bool patient = HoldsPatient(screen);
-  const bool bar = HoldsAny(name, {"hall", "room"});
-  if (!patient && screen.children_known &&
-      !HoldsAny(name, {"empty", "hall", "elevator", "screen"})) {
+  const bool bar = ShowsToolBar(name);
+  if (!patient && screen.children_known && HelpPlaceOf(name) == HelpPlace::kPatientRoom) {
     tell(Check::kNoPatient, "is a patient's room by its name and has no patient");
   }
   if (patient && !bar) tell(Check::kNoBar, "has a patient and, by its name, no tool bar");
-  if (screen.IsType("subgame")) {
+  if (screen.Class() == ObjectClass::kSubgame) {
     if (bar) tell(Check::kBarOverGame, "is an arcade game and, by its name, has the tool bar");
     return;  // never saved anyway
   }
-  for (const char* word : {"tutorial", "cursors", "square", "shooter"}) {
+  for (const std::string_view word : kUnsavedWords) {
     // A tutorial is meant to begin anew.
-    if (!ContainsNoCase(name, word) || FindNoCase(name, "tutorial") == 0) continue;
-    tell(Check::kNotSaved, std::string("holds \"") + word + "\", and such a screen isn't saved");
+    if (!ContainsNoCase(name, word) || FindNoCase(name, kTutorialWord) == 0) continue;
+    tell(Check::kNotSaved, "holds \"" + std::string(word) + "\", and such a screen isn't saved");
   }
 }
 
@@ -60,7 +58,7 @@ bool Covers(const ModelObject& screen) {
 void CheckScreens(const CheckContext& context) {
   const std::set<std::string> reached = context.flow.ReachableScreens();
   for (const ModelObjectRef& screen : context.model.screens) {
-    if (screen->IsNamed("tools") || screen->IsNamed("cursors")) continue;
+    if (IsLayer(screen->name)) continue;
     CheckName(context, *screen);
     if (screen->states_known && screen->animations_known && !Covers(*screen)) {
       context.Tell(Check::kNotCovered, *screen, screen->name_place,
@@ -68,7 +66,8 @@ void CheckScreens(const CheckContext& context) {
     }
     if (reached.contains(FoldCase(screen->name))) continue;
     context.Tell(Check::kUnreachable, *screen, screen->name_place,
-                 "no message leads from \"introscreen\" to \"" + screen->name + "\"");
+                 "no message leads from \"" + std::string(kFirstScreenName) + "\" to \"" +
+                     screen->name + "\"");
   }
 }
 

@@ -79,18 +79,19 @@ class BlockChecker {
 
   void CheckAction(const Command& node) {
     const ScriptLine& line = lines_[at_];
-    const std::vector<std::string> words = SplitTokens(node.Text(), ' ');
-    if (node.ActionStatement()->Verb() != StatementVerb::kOther) {
-      if (words.size() < 2) {
+    const Statement& statement = *node.ActionStatement();
+    if (statement.Meaning() != StatementMeaning::kNothing) {
+      if (!statement.HasArgument()) {
         Tell(quendle::Check::kOneWord, line, "\"" + node.Text() + "\" needs a second word");
       }
       return;
     }
     if (ContainsNoCase(node.Text(), "subscript")) return;  // told with the inclusions
+    std::vector<std::string> known = StatementWords();
+    known.insert(known.end(), {"if", "endif", "elseif"});
     Tell(quendle::Check::kNoStatement, line,
          "Invalid Script Statement \"" + node.Text() + "\"" +
-             DidYouMean(words.empty() ? "" : words[0],
-                        {"mtp", "change", "runsound", "runstate", "if", "endif", "elseif"}));
+             DidYouMean(FirstWord(node.Text()), known));
   }
 
   void Tell(quendle::Check check, const ScriptLine& line, std::string text) {

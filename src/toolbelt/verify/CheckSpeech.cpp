@@ -1,6 +1,8 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "logic/GameVerbs.h"
+#include "object/DoctorStates.h"
 #include "toolbelt/verify/Checks.h"
 
 namespace quendle {
@@ -59,17 +61,26 @@ void CheckHover(const CheckContext& context, const ModelObject& object, const Ob
                    state.Name() + "\"");
 }
 
+bool LeavesTheScreen(const std::string& message) {
+  const std::vector<std::string> words = SplitTokens(message, '_');
+  if (words.size() < 2) return false;
+  const GameVerb verb = GameVerbOf(message, words[0]);
+  return verb == GameVerb::kChangeScreen || verb == GameVerb::kSubgame;
+}
+
 // `runsound` with a change of screen behind it among the same statements.
 void CheckLeaving(const CheckContext& context, const ModelObject& object, const Command& node) {
   const Command* sound = nullptr;
   for (const Command& child : node.Children()) {
     CheckLeaving(context, object, child);
     if (child.Type() != NodeType::kAction) continue;
-    const std::vector<std::string> words = SplitTokens(child.Text(), ' ');
-    if (words.size() < 2) continue;
-    if (EqualsNoCase(words[0], "runsound")) sound = SaysNothing(words[1]) ? nullptr : &child;
-    const bool leaves = EqualsNoCase(words[0], "mtp") &&
-                        (FindNoCase(words[1], "cs_") == 0 || FindNoCase(words[1], "subgame_") == 0);
+    const Statement& statement = *child.ActionStatement();
+    if (!statement.HasArgument()) continue;
+    if (statement.Meaning() == StatementMeaning::kSound) {
+      sound = SaysNothing(statement.Argument()) ? nullptr : &child;
+    }
+    const bool leaves =
+        statement.Meaning() == StatementMeaning::kMessage && LeavesTheScreen(statement.Argument());
     if (!leaves || sound == nullptr) continue;
     context.Tell(Check::kSoundLeaves, object, sound->Place(),
                  "\"" + sound->Text() + "\" is cut by \"" + child.Text() + "\"");
@@ -83,7 +94,7 @@ void CheckSpeech(const CheckContext& context) {
     for (const ObjState& state : object->states) {
       CheckPassingState(context, *object, state);
       CheckHover(context, *object, state);
-      const bool greets = object->IsNamed("doctor") && EqualsNoCase(state.Name(), "default") &&
+      const bool greets = object->IsNamed(kDoctorName) && EqualsNoCase(state.Name(), "default") &&
                           Speaks(state) && !ContainsNoCase(state.SoundState(), "subgame");
       if (greets) {
         context.Tell(Check::kGreeting, *object, {state.Place().file, state.Place().line + 1},

@@ -83,6 +83,13 @@ constexpr auto kRows = std::to_array<CheckRow>({
      "A board has 3 tiles in a row and a state for each of its 8 tiles; the names of more than "
      "11 kinds of enemies collide.",
      "Mend the board, or shorten the list."},
+    {Check::kTooDeep, "V213", kError, "objects too deep inside one another",
+     "The game ends when more than 60 objects stand inside one another.",
+     "Put some of them beside each other."},
+    {Check::kTooMany, "V214", kError, "too many objects in one tree",
+     "Lists that several objects share are read for each of them, and the game ends when a load "
+     "makes too many objects.",
+     "Name the list once."},
     {Check::kUnknownSound, "V301", kError, "a state with an unknown sound",
      "The game ends when the state is entered.",
      "Mend the name, or add the sound to the sound file."},
@@ -204,6 +211,14 @@ constexpr auto kRows = std::to_array<CheckRow>({
      "A screen hands messages with `subgame` up, a game those with `won`, `lost` or `done`, "
      "and the game itself hands `toobj` down again.",
      "Rename the object or the state that it names."},
+    {Check::kOwnEvent, "V710", kError, "an event that sends itself",
+     "A script answers it by sending it again, itself or through others. It goes round in circles "
+     "until the game ends.",
+     "Change the state before it is sent, or send another action."},
+    {Check::kFarEvent, "V711", kError, "an event that brings too much about",
+     "Its answers send more than one event each, or each one further, beyond what the game allows "
+     "in one event.",
+     "Send what follows once, to the one object that is meant."},
     {Check::kCaughtWord, "V801", kWarning, "a name that is caught by a word in it",
      "Messages and block words are found by their letters: `tool`, `subgame`, `won`, `lost`, "
      "`done`, `end`, `else`.",

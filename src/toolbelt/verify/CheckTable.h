@@ -37,6 +37,8 @@ enum class Check {
   kPlayAreaPlace,
   kMenuChildren,
   kBoard,
+  kTooDeep,
+  kTooMany,
   // States, animations, frames
   kUnknownSound,
   kUnknownAnimation,
@@ -88,6 +90,8 @@ enum class Check {
   kNoSuchScript,
   kMessageState,
   kEndlessMessage,
+  kOwnEvent,
+  kFarEvent,
   // Names and screens
   kCaughtWord,
   kUnderscore,

@@ -29,6 +29,8 @@ void CheckStates(const CheckContext& context);
 void CheckFrames(const CheckContext& context);
 // Where child lists put objects, and what they hold.
 void CheckObjects(const CheckContext& context);
+// How deep and how many objects stand inside one another.
+void CheckTrees(const CheckContext& context);
 // Pictures as they are on the disk, and the rectangles cut out of them.
 void CheckPictures(const CheckContext& context);
 // Sound files, decoded.

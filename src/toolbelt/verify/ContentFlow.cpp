@@ -1,33 +1,38 @@
 #include "toolbelt/verify/ContentFlow.h"
 
 #include <algorithm>
-#include <span>
 
 #include "base/Text.h"
+#include "logic/GameVerbs.h"
+#include "object/DoctorStates.h"
+#include "object/ObjectVerbs.h"
+#include "object/SurgeryReset.h"
+#include "screens/ScreenNames.h"
 
 namespace quendle {
 namespace {
 
-// Where the game itself sends the doctor.
-constexpr const char* kDoctorStates[] = {"tryagain",        "startover",    "toomany",
-                                         "alreadyhaveone",  "helptoolitem", "helpmedicalbook",
-                                         "helppatientroom", "helptoolroom", "helpelevator"};
-constexpr const char* kSurgeryStates[] = {"tonsilsStage1", "tumorStage1"};
-
-bool IsOneOf(const std::string& name, std::span<const char* const> words) {
-  return std::ranges::any_of(words, [&](const char* w) { return EqualsNoCase(name, w); });
+// The game itself leads the object to that state.
+bool LeadsToItself(const ModelObject& object, const ObjState& state) {
+  if (object.IsNamed(kDoctorName)) {
+    return std::ranges::any_of(
+        kDoctorStates, [&](DoctorState s) { return EqualsNoCase(state.Name(), NameOf(s)); });
+  }
+  return object.IsNamed(kSurgeryMachineName) &&
+         std::ranges::any_of(kSurgeryResets, [&](const SurgeryReset& reset) {
+           return EqualsNoCase(state.Name(), reset.machine_state);
+         });
 }
 
 const ModelObject* RootScreen(const ModelInstance& instance) {
   const ModelObject* root = instance.front();
-  const bool screen =
-      root->role == ModelRole::kScreen && !root->IsNamed("tools") && !root->IsNamed("cursors");
-  return screen ? root : nullptr;
+  return root->IsRoom() ? root : nullptr;
 }
 
 }  // namespace
 
-ContentFlow::ContentFlow(const ContentModel& model) : model_(model), router_(model) {
+ContentFlow::ContentFlow(const ContentModel& model)
+    : model_(model), router_(model), chains_(router_, faults_) {
   Walk(false);
   // Now it is known where global objects are added, so their own messages can be followed.
   std::set<std::pair<const ModelObject*, const ModelObject*>> added;
@@ -87,24 +92,26 @@ void ContentFlow::WalkStatement(const ModelObject& object, const Command& node,
                                 const StateSet& states, const std::vector<ModelInstance>& instances,
                                 bool tell) {
   const Statement& statement = *node.ActionStatement();
-  if (statement.Verb() == StatementVerb::kOther) return;
-  if (SplitTokens(statement.Text(), ' ').size() < 2) return;  // told with the script
+  if (statement.Meaning() == StatementMeaning::kNothing) return;
+  if (!statement.HasArgument()) return;  // told with the script
   // Counting past the last state is how a row of states ends.
   const bool tell_this = tell && !CountsUp(statement.Argument());
   for (const std::string& word : ExpandWord(object, statement.Argument(), states)) {
-    switch (statement.Verb()) {
-      case StatementVerb::kMtp:
+    switch (statement.Meaning()) {
+      case StatementMeaning::kMessage:
         Message(object, word, node.Place(), instances, tell_this);
+        if (tell) chains_.Follow(instances, node.Place(), word, states);
         break;
-      case StatementVerb::kChange:
-      case StatementVerb::kRunState:
-        EnterOwn(object, word, node.Place(), statement.Verb() == StatementVerb::kRunState,
-                 tell_this);
+      case StatementMeaning::kState:
+        EnterOwn(object, word, node.Place(), false, tell_this);
         break;
-      case StatementVerb::kRunSound:
+      case StatementMeaning::kPassingState:
+        EnterOwn(object, word, node.Place(), true, tell_this);
+        break;
+      case StatementMeaning::kSound:
         RunSound(object, word, node.Place(), tell_this);
         break;
-      case StatementVerb::kOther:
+      case StatementMeaning::kNothing:
         break;
     }
   }
@@ -156,14 +163,15 @@ void ContentFlow::AddOwnMessages() {
   MessageEffects& effects = effects_[nullptr];
   for (const ModelObjectRef& object : model_.objects) {
     for (const ObjState& state : object->states) {
-      const bool own = (object->IsNamed("doctor") && IsOneOf(state.Name(), kDoctorStates)) ||
-                       (object->IsNamed("surgerymachine") && IsOneOf(state.Name(), kSurgeryStates));
-      if (!own) continue;
+      if (!LeadsToItself(*object, state)) continue;
       effects.states.insert({object.get(), FoldCase(state.Name())});
-      if (object->IsNamed("doctor")) effects.passing.insert({object.get(), FoldCase(state.Name())});
+      if (object->IsNamed(kDoctorName))
+        effects.passing.insert({object.get(), FoldCase(state.Name())});
     }
   }
-  for (const char* action : {"gamewon", "gamelost", "nothing"}) effects.actions.insert(action);
+  for (const char* action : {kGameWonAction, kGameLostAction, kRunScriptAction}) {
+    effects.actions.insert(action);
+  }
 }
 
 bool ContentFlow::Enters(const ModelObject& object, const std::string& state) const {
@@ -181,7 +189,7 @@ bool ContentFlow::Passes(const ModelObject& object, const std::string& state) co
 }
 
 std::set<std::string> ContentFlow::ReachableScreens() const {
-  std::set<std::string> reached{"introscreen", "tools", "cursors"};
+  std::set<std::string> reached(kFixedScreens.begin(), kFixedScreens.end());
   const auto global = effects_.find(nullptr);
   if (global != effects_.end()) {
     reached.insert(global->second.screens.begin(), global->second.screens.end());

@@ -7,18 +7,11 @@
 #include <vector>
 
 #include "toolbelt/verify/ContentModel.h"
+#include "toolbelt/verify/EventChains.h"
 #include "toolbelt/verify/MessageRouter.h"
 #include "toolbelt/verify/ScriptWalk.h"
 
 namespace quendle {
-
-// A statement that doesn't do what it says.
-struct StatementFault {
-  const ModelObject* object;
-  FilePlace place;
-  Check check;
-  std::string text;
-};
 
 // What all statements and directives of a content tree bring about, followed without playing.
 class ContentFlow {
@@ -56,6 +49,7 @@ class ContentFlow {
   const ContentModel& model_;
   MessageRouter router_;
   std::vector<StatementFault> faults_;
+  EventChains chains_;
   // By the screen from whose tree they were sent; null for those of global objects.
   std::map<const ModelObject*, MessageEffects> effects_;
   std::set<const ModelObject*> sounding_;

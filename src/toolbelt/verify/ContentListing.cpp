@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "backends/files/DiskNames.h"
 #include "base/Text.h"

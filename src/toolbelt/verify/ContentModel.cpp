@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "screens/ScreenNames.h"
 
 namespace quendle {
 namespace {
@@ -28,7 +29,7 @@ std::size_t ModelAnimation::Length() const {
 
 bool ModelObject::IsType(std::string_view word) const { return EqualsNoCase(type, word); }
 bool ModelObject::IsNamed(std::string_view word) const { return EqualsNoCase(name, word); }
-bool ModelObject::IsPlayArea() const { return FindNoCase(type, "playarea") == 0; }
+bool ModelObject::IsRoom() const { return role == ModelRole::kScreen && !IsLayer(name); }
 
 const ObjState* ModelObject::State(std::string_view state_name) const {
   return FindLast(

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,8 @@
 #include "object/Region.h"
 #include "script/Command.h"
 #include "script/ScriptState.h"
+#include "shell/ObjectClasses.h"
+#include "subgames/SubgameKinds.h"
 
 namespace quendle {
 
@@ -99,7 +102,13 @@ struct ModelObject {
 
   bool IsType(std::string_view word) const;
   bool IsNamed(std::string_view word) const;
-  bool IsPlayArea() const;
+  // Nothing for an unknown type word.
+  std::optional<ObjectClass> Class() const { return ObjectClassOf(type); }
+  // The game that a play area is of.
+  std::optional<SubgameKind> Game() const { return SubgameKindOf(type); }
+  bool IsPlayArea() const { return Game().has_value(); }
+  // A screen that can be in view, neither the tool bar nor the layer above all.
+  bool IsRoom() const;
   const ObjState* State(std::string_view state_name) const;
   const ModelAnimation* Animation(std::string_view animation_name) const;
   // The last frame of a name counts.

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/Text.h"
-#include "toolbelt/Utf8.h"
 
 namespace quendle {
 namespace {

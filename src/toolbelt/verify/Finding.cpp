@@ -1,10 +1,11 @@
+#include "toolbelt/verify/Finding.h"
+
 #include <algorithm>
 #include <map>
 #include <tuple>
 #include <utility>
 
 #include "base/Text.h"
-#include "toolbelt/verify/Finding.h"
 
 namespace quendle {
 

@@ -1,21 +1,12 @@
 // What an arcade game is made of: header or board, and the data files of its cells.
-#include <array>
-
 #include "base/PathTokens.h"
 #include "base/Text.h"
 #include "subgames/SubgameFiles.h"
+#include "subgames/SubgameKinds.h"
 #include "toolbelt/verify/TreeReader.h"
 
 namespace quendle {
 namespace {
-
-constexpr const char* kFormations = "\\info\\shooterdata.txt";
-constexpr std::array kBallFiles = {"cell1data.txt", "cell2data.txt", "cell3data.txt",
-                                   "cell4data.txt", "cell5data.txt", "balldata.txt",
-                                   "paddledata.txt"};
-constexpr std::array kDriftFiles = {"cell1data.txt", "cell2data.txt", "cell3data.txt",
-                                    "cell4data.txt", "cell5data.txt", "cell6data.txt",
-                                    "gooddata.txt"};
 
 constexpr int kTilesPerRow = 3;
 constexpr std::size_t kTiles = 8;
@@ -46,17 +37,19 @@ void TreeReader::ReadPlayArea(ModelObject& area, const NamedFile& object_file,
 }
 
 void TreeReader::ReadGame(ModelObject& area, const NamedFile& game) {
-  if (area.IsType("playareasquare")) {
-    ReadBoard(area, game);
-  } else if (area.IsType("playareashooter")) {
-    ReadShooter(area, game);
-  } else {
-    gate_.Read(game, [](TextStream& stream) { ReadGameHeader(stream); });
-    const std::string screen = area.parents.empty() ? area.name : area.parents.front()->name;
-    for (const char* name : area.IsType("playareablinker") ? kBallFiles : kDriftFiles) {
-      const std::string path = "\\Info\\" + screen + "\\" + name;
-      ReadCell(area, {path, path, game.place, game.object});
-    }
+  const SubgameRow& row = RowOf(*area.Game());
+  switch (row.data) {
+    case GameData::kBoard:
+      return ReadBoard(area, game);
+    case GameData::kHeaderWithList:
+      return ReadShooter(area, game);
+    case GameData::kHeader:
+      gate_.Read(game, [](TextStream& stream) { ReadGameHeader(stream); });
+      const std::string frame = area.parents.empty() ? area.name : area.parents.front()->name;
+      for (const char* name : row.fixed_cells) {
+        const std::string path = gate_.Listing().OnDisk(FolderOfCells(frame) + "\\" + name);
+        ReadCell(area, {path, path, game.place, game.object});
+      }
   }
 }
 
@@ -75,7 +68,7 @@ void TreeReader::ReadShooter(ModelObject& area, const NamedFile& header) {
   for (const std::string& cell : cells) {
     ReadCell(area, InFile(area, cell, {gate_.DisplayName(list.resolved), ++line}));
   }
-  const std::string formations = gate_.Listing().OnDisk(kFormations);
+  const std::string formations = gate_.Listing().OnDisk(kFormationFile);
   gate_.Read({formations, formations, header.place, header.object},
              [](TextStream& stream) { ReadFormations(stream); });
 }

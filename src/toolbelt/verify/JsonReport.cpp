@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "base/Text.h"
 #include "toolbelt/verify/Report.h"

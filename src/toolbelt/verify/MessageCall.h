@@ -17,8 +17,6 @@ struct MessageRouter::Call {
         depth(level) {}
 
   std::string Verb() const { return words.empty() ? "" : words[0]; }
-  bool Is(std::string_view verb) const { return EqualsNoCase(Verb(), verb); }
-  bool Holds(std::string_view word) const { return ContainsNoCase(message, word); }
   bool Needs(std::size_t number) const { return words.size() >= number; }
   const std::string& Word(std::size_t number) const { return words[number - 1]; }
   // The words from `number` on, as a message of their own.

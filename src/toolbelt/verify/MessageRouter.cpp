@@ -2,9 +2,15 @@
 #include "toolbelt/verify/MessageRouter.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "base/FatalError.h"
+#include "base/PathTokens.h"
 #include "base/Text.h"
+#include "logic/GameVerbs.h"
+#include "object/DoctorStates.h"
+#include "object/ObjectVerbs.h"
+#include "screens/ScreenNames.h"
 #include "toolbelt/verify/MessageCall.h"
 
 namespace quendle {
@@ -13,15 +19,10 @@ namespace {
 constexpr std::size_t kMostInstances = 64;
 constexpr std::size_t kDeepestInstance = 12;
 
-bool IsBar(const ModelObject& object) { return object.IsNamed("tools"); }
-bool IsPointerScreen(const ModelObject& object) { return object.IsNamed("cursors"); }
-
-bool EndsNoCase(std::string_view text, std::string_view end) {
-  return text.size() >= end.size() && EqualsNoCase(text.substr(text.size() - end.size()), end);
-}
-
-bool HoldsAny(const std::string& text, std::initializer_list<std::string_view> words) {
-  return std::ranges::any_of(words, [&](std::string_view w) { return ContainsNoCase(text, w); });
+// The game itself puts the global object there.
+bool GathersIn(const ModelObject& screen, const ModelObject& global) {
+  return (screen.IsNamed(kToolsScreenName) && global.Class() == ObjectClass::kTool) ||
+         (screen.IsNamed(kCursorsScreenName) && IsPointerName(global.name));
 }
 
 std::vector<std::string> NamesOf(const std::vector<const ModelObject*>& objects, bool types) {
@@ -40,14 +41,14 @@ ModelInstance Below(ModelInstance instance, const ModelObject* child) {
 std::vector<const ModelObject*> MessageRouter::OrdinaryScreens() const {
   std::vector<const ModelObject*> screens;
   for (const ModelObjectRef& screen : model_.screens) {
-    if (!IsBar(*screen) && !IsPointerScreen(*screen)) screens.push_back(screen.get());
+    if (screen->IsRoom()) screens.push_back(screen.get());
   }
   return screens;
 }
 
 std::vector<const ModelObject*> MessageRouter::ChildrenOf(const ModelObject& object) const {
   std::vector<const ModelObject*> children;
-  if (object.IsType("menu")) return children;
+  if (object.Class() == ObjectClass::kMenu) return children;
   for (const ModelChild& child : object.children) {
     if (child.object != nullptr) children.push_back(child.object.get());
   }
@@ -56,9 +57,7 @@ std::vector<const ModelObject*> MessageRouter::ChildrenOf(const ModelObject& obj
   }
   if (object.role != ModelRole::kScreen) return children;
   for (const ModelObjectRef& global : model_.globals) {
-    const bool here = (IsBar(object) && global->IsType("tool")) ||
-                      (IsPointerScreen(object) && EndsNoCase(global->name, "cursor"));
-    if (here && std::ranges::find(children, global.get()) == children.end()) {
+    if (GathersIn(object, *global) && std::ranges::find(children, global.get()) == children.end()) {
       children.push_back(global.get());
     }
   }
@@ -79,9 +78,7 @@ std::vector<ModelInstance> MessageRouter::InstancesBelow(const ModelObject& obje
   }
   if (object.role == ModelRole::kGlobal) {
     for (const ModelObjectRef& screen : model_.screens) {
-      const bool here = (IsBar(*screen) && object.IsType("tool")) ||
-                        (IsPointerScreen(*screen) && EndsNoCase(object.name, "cursor"));
-      if (here) parents.push_back(screen.get());
+      if (GathersIn(*screen, object)) parents.push_back(screen.get());
     }
   }
   std::vector<ModelInstance> instances;
@@ -108,96 +105,87 @@ Verdict MessageRouter::ToParent(const ModelInstance& sender, Call& call) {
 
 Verdict MessageRouter::ToObject(const ModelInstance& receiver, Call& call) {
   if (call.TooDeep()) return call.Endless();
-  const ModelObject& object = *receiver.back();
-  if (object.IsType("hall") || object.IsType("overlay")) return ToScreen(receiver, call);
-  if (object.IsPlayArea()) return ToArea(receiver, call);
-  if (object.IsType("menu") && call.Holds("scorevalue")) return {};
-  if (object.IsType("subgame")) {
-    if (call.Holds("scorevalue")) return {};
-    if (HoldsAny(call.message, {"done", "won", "lost"})) return ToParent(receiver, call.Deeper());
+  const std::optional<ObjectClass> object_class = receiver.back()->Class();
+  if (!object_class) return ToPlainObject(receiver, call);
+  switch (*object_class) {
+    case ObjectClass::kScreen:
+      return ToScreen(receiver, call);
+    case ObjectClass::kPlayArea:
+      return ToArea(receiver, call);
+    case ObjectClass::kMenu:
+      return ToMenu(receiver, call);
+    case ObjectClass::kSubgame:
+      return ToFrame(receiver, call);
+    case ObjectClass::kPointSystem:
+      return ToPoints(receiver, call);
+    case ObjectClass::kButton:
+    case ObjectClass::kPatient:
+    case ObjectClass::kTool:
+    case ObjectClass::kBodyView:
+      return ToPlainObject(receiver, call);
   }
-  if (object.IsType("pointsystem")) {
-    for (const char* verb : {"addclass", "addpoints", "removepoints"}) {
-      if (call.Is(verb)) return call.Needs(2) ? Verdict{} : call.Short();
-    }
-  }
-  return ToPlainObject(receiver, call);
-}
-
-Verdict MessageRouter::ToScreen(const ModelInstance& receiver, Call& call) {
-  const ModelObject& screen = *receiver.back();
-  if (call.Holds("addglobalobj")) return ToPlainObject(receiver, call);
-  if (EqualsNoCase(call.message, "inctoolcounter") ||
-      EqualsNoCase(call.message, "dectoolcounter")) {
-    return {};
-  }
-  const bool climbs =
-      (call.Holds("tool") && !HoldsAny(call.message, {"removeobj", "runscript", "toobj"})) ||
-      call.Holds("subgame");
-  if (climbs) {
-    Verdict verdict = ToParent(receiver, call.Deeper());
-    if (!verdict.fine && verdict.check == Check::kNoTaker) {
-      verdict.text += "; a screen hands all that holds \"tool\" or \"subgame\" up to the game";
-    }
-    return verdict;
-  }
-  if (IsBar(screen)) {
-    if (HoldsAny(call.message, {"removeallchildren", "removechildren"})) return {};
-    if (call.Holds("addchild?")) return call.Needs(2) ? Verdict{} : call.Short();
-  }
-  return ToPlainObject(receiver, call);
-}
-
-Verdict MessageRouter::ToArea(const ModelInstance& receiver, Call& call) {
-  if (EqualsNoCase(call.message, "startgame") ||
-      HoldsAny(call.message, {"stopgame", "replaygame", "restartgame", "select", "acceptedcell"})) {
-    return {};
-  }
-  if (receiver.back()->IsType("playareasquare") && EqualsNoCase(call.message, "endgame")) return {};
-  // Its cells come and go in play.
-  if (HoldsAny(call.Verb(), {"toobj", "totype", "showobj", "showtype"})) return {};
-  return ToPlainObject(receiver, call);
+  return {};
 }
 
 Verdict MessageRouter::ToPlainObject(const ModelInstance& receiver, Call& call) {
   const ModelObject& object = *receiver.back();
-  const auto verb_holds = [&](const char* word) { return ContainsNoCase(call.Verb(), word); };
   if (call.words.empty()) return call.Short();
-  if (verb_holds("showobj")) return ShowOrHide(receiver, call, false, false);
-  if (verb_holds("runscript")) {
-    if (!call.Needs(2)) return call.Short();
-    if (EqualsNoCase(call.Word(2), "nothing") || !object.scripts_known ||
-        object.Script(call.Word(2)) != nullptr) {
+  switch (ObjectVerbOf(call.Verb())) {
+    case ObjectVerb::kShowObj:
+      return ShowOrHide(receiver, call, false, false);
+    case ObjectVerb::kShowType:
+      return ShowOrHide(receiver, call, true, false);
+    case ObjectVerb::kHideObj:
+      return ShowOrHide(receiver, call, false, true);
+    case ObjectVerb::kHideType:
+      return ShowOrHide(receiver, call, true, true);
+    case ObjectVerb::kRunScript:
+      return RunScript(receiver, call);
+    case ObjectVerb::kUserAction:
+      if (!call.Needs(2)) return call.Short();
+      call.effects.actions.insert(FoldCase(call.Word(2)));
+      if (call.effects.events != nullptr) call.effects.events->push_back({receiver, call.Word(2)});
       return {};
-    }
-    std::vector<std::string> names;
-    for (const ModelScript& script : object.scripts) names.push_back(script.name);
-    return call.Wrong(Check::kNoSuchScript, "Could Not Find the Script Named \"" + call.Word(2) +
-                                                "\" of " + ModelPath(object) +
-                                                DidYouMean(call.Word(2), names));
+    case ObjectVerb::kAddGlobalObj:
+      return AddGlobal(object, call);
+    case ObjectVerb::kToType:
+      return Deliver(receiver, call, true);
+    case ObjectVerb::kToObj:
+      return Deliver(receiver, call, false);
+    case ObjectVerb::kRunState:
+      return EnterState(object, call, true);
+    case ObjectVerb::kChangeState:
+      return EnterState(object, call, false);
+    case ObjectVerb::kRemoveObj:
+      return RemoveObject(receiver, call);
+    case ObjectVerb::kClimb:
+      return ToParent(receiver, call.Deeper());
   }
-  if (call.Is("useraction")) {
-    if (!call.Needs(2)) return call.Short();
-    call.effects.actions.insert(FoldCase(call.Word(2)));
+  return {};
+}
+
+Verdict MessageRouter::RunScript(const ModelInstance& receiver, Call& call) {
+  const ModelObject& object = *receiver.back();
+  if (!call.Needs(2)) return call.Short();
+  if (call.effects.events != nullptr) {
+    call.effects.events->push_back({receiver, "nothing", call.Word(2)});
+  }
+  if (IsNothing(call.Word(2)) || !object.scripts_known || object.Script(call.Word(2)) != nullptr) {
     return {};
   }
-  if (verb_holds("hidetype")) return ShowOrHide(receiver, call, true, true);
-  if (verb_holds("hideobj")) return ShowOrHide(receiver, call, false, true);
-  if (call.Is("addglobalobj")) return AddGlobal(object, call);
-  if (verb_holds("showtype")) return ShowOrHide(receiver, call, true, false);
-  if (verb_holds("totype")) return Deliver(receiver, call, true);
-  if (verb_holds("toobj")) return Deliver(receiver, call, false);
-  if (call.Is("toscreen")) return ToParent(receiver, call.Deeper());
-  if (call.Is("runstate")) return EnterState(object, call, true);
-  if (call.Is("changestate") || call.Is("processstate")) return EnterState(object, call, false);
-  if (verb_holds("removeobj") && !verb_holds("cs")) {
-    if (!call.Needs(2)) return call.Short();
-    const auto children = ChildrenOf(object);
-    const bool there = std::ranges::any_of(
-        children, [&](const ModelObject* child) { return child->IsNamed(call.Word(2)); });
-    if (there) return {};
-  }
-  return ToParent(receiver, call.Deeper());
+  std::vector<std::string> names;
+  for (const ModelScript& script : object.scripts) names.push_back(script.name);
+  return call.Wrong(Check::kNoSuchScript, "Could Not Find the Script Named \"" + call.Word(2) +
+                                              "\" of " + ModelPath(object) +
+                                              DidYouMean(call.Word(2), names));
+}
+
+Verdict MessageRouter::RemoveObject(const ModelInstance& receiver, Call& call) {
+  if (!call.Needs(2)) return call.Short();
+  const auto children = ChildrenOf(*receiver.back());
+  const bool there = std::ranges::any_of(
+      children, [&](const ModelObject* child) { return child->IsNamed(call.Word(2)); });
+  return there ? Verdict{} : ToParent(receiver, call.Deeper());
 }
 
 Verdict MessageRouter::ShowOrHide(const ModelInstance& receiver, Call& call, bool by_type,
@@ -231,8 +219,8 @@ Verdict MessageRouter::Deliver(const ModelInstance& receiver, Call& call, bool b
     verdict = answer;
   }
   if (!verdict.text.empty()) return verdict;
-  if (const ModelObject* doctor = model_.Global("doctor");
-      !by_type && doctor != nullptr && EqualsNoCase(wanted, "doctor")) {
+  if (const ModelObject* doctor = model_.Global(kDoctorName);
+      !by_type && doctor != nullptr && EqualsNoCase(wanted, kDoctorName)) {
     if (!call.Needs(3)) return call.Short();
     Call tail = call.Tail(3);
     return ToObject({doctor}, tail);

@@ -20,6 +20,13 @@ struct Verdict {
   std::string text;
 };
 
+// An event that a message sends to an object, or a script that it runs there.
+struct SentEvent {
+  ModelInstance receiver;
+  std::string action;
+  std::string script = {};  // empty for an event
+};
+
 // What messages bring about, gathered over many of them.
 struct MessageEffects {
   std::set<std::pair<const ModelObject*, std::string>> states;        // entered, in small letters
@@ -27,6 +34,7 @@ struct MessageEffects {
   std::set<std::string> screens;                                      // entered, in small letters
   std::set<std::string> actions;                                      // sent, in small letters
   std::set<std::pair<const ModelObject*, const ModelObject*>> added;  // holder, global object
+  std::vector<SentEvent>* events = nullptr;                           // gathered when there is one
 };
 
 // Follows messages through a content tree at rest: the rows of objects, of screens and of the game,
@@ -41,6 +49,8 @@ class MessageRouter {
   // A message to the parent of an object. Where that could be one of several, a message that one of
   // them takes is fine.
   Verdict SendUp(const ModelInstance& sender, const std::string& message, MessageEffects& effects);
+  // What hangs in an object: also the global objects that the game or messages put there.
+  std::vector<const ModelObject*> ChildrenOf(const ModelObject& object) const;
   // Global objects that messages add to holders, as gathered by an earlier pass.
   void SetAdded(std::set<std::pair<const ModelObject*, const ModelObject*>> added) {
     added_ = std::move(added);
@@ -52,19 +62,27 @@ class MessageRouter {
   Verdict ToParent(const ModelInstance& sender, Call& call);
   Verdict ToObject(const ModelInstance& receiver, Call& call);
   Verdict ToScreen(const ModelInstance& receiver, Call& call);
+  Verdict ClimbFromScreen(const ModelInstance& receiver, Call& call);
+  Verdict ToMenu(const ModelInstance& receiver, Call& call);
+  Verdict ToFrame(const ModelInstance& receiver, Call& call);
+  Verdict ToPoints(const ModelInstance& receiver, Call& call);
   Verdict ToArea(const ModelInstance& receiver, Call& call);
+  static bool SpeaksToCells(const Call& call);
   Verdict ToPlainObject(const ModelInstance& receiver, Call& call);
   Verdict ToGame(const ModelObject* root, Call& call);
   Verdict ToCurrentScreen(const ModelObject* root, Call& call);
+  Verdict ToPointer(const Call& call);
   Verdict ToolOffer(const ModelObject* root, Call& call);
+  Verdict ToSubgame(Call& call);
   Verdict ToWhere(const ModelObject* root, Call& call);
   Verdict Deliver(const ModelInstance& receiver, Call& call, bool by_type);
   Verdict EnterState(const ModelObject& object, Call& call, bool passing);
   Verdict EnterScreen(Call& call);
   Verdict ShowOrHide(const ModelInstance& receiver, Call& call, bool by_type, bool climbs);
+  Verdict RunScript(const ModelInstance& receiver, Call& call);
+  Verdict RemoveObject(const ModelInstance& receiver, Call& call);
   Verdict AddGlobal(const ModelObject& object, Call& call);
 
-  std::vector<const ModelObject*> ChildrenOf(const ModelObject& object) const;
   std::vector<const ModelObject*> OrdinaryScreens() const;
 
   const ContentModel& model_;

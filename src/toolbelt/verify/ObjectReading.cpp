@@ -9,27 +9,16 @@
 #include "toolbelt/verify/TreeReader.h"
 
 namespace quendle {
-namespace {
-
-constexpr const char* kDirectiveKeys[] = {"visible", "depth", "state", "runstate", "xpos", "ypos"};
-
-bool IsDirective(const std::string& word) {
-  const std::vector<std::string> pieces = SplitTokens(word, '_');
-  if (pieces.size() < 2) return false;
-  if (EqualsNoCase(pieces[0], "visible")) {
-    return EqualsNoCase(pieces[1], "on") || EqualsNoCase(pieces[1], "off");
-  }
-  return std::ranges::any_of(kDirectiveKeys,
-                             [&](const char* key) { return EqualsNoCase(pieces[0], key); });
-}
-
-}  // namespace
-
 ModelObjectRef TreeReader::ReadObject(const NamedFile& file, ModelRole role, ModelObject* parent) {
   const std::string key = FoldCase(file.resolved);
   if (std::ranges::find(open_, key) != open_.end()) {
     findings_.Add(Check::kCircle, file.object, file.place,
                   "\"" + file.stored + "\" is read already: an object can't hold itself");
+    return nullptr;
+  }
+  if (open_.size() >= static_cast<std::size_t>(kDeepestNesting)) {
+    findings_.Add(Check::kTooDeep, file.object, file.place,
+                  NestedTooDeep(gate_.DisplayName(file.resolved)));
     return nullptr;
   }
   if (const auto known = known_.find(key); known != known_.end()) {
@@ -92,7 +81,7 @@ void TreeReader::CheckHeader(const ModelObject& object, const ObjectFile& read) 
   }
   if (!object.IsPlayArea()) {
     for (const std::string& word : SplitTokens(read.directives, ' ')) {
-      if (IsDirective(word)) continue;
+      if (SaysSomething(word)) continue;
       findings_.Add(Check::kOddDirective, label, read.directives_place,
                     "\"" + word + "\" is no directive");
     }
@@ -146,7 +135,7 @@ void TreeReader::ReadChild(ModelObject& object, const ChildLine& line) {
   gate_.Guard(label, [&] { child.directives = ParseDirectives(line.line, line.place); });
   const std::vector<std::string> words = SplitTokens(line.line, ' ');
   for (std::size_t i = 1; i < words.size(); ++i) {
-    if (IsDirective(words[i])) continue;
+    if (SaysSomething(words[i])) continue;
     findings_.Add(Check::kOddDirective, label, line.place, "\"" + words[i] + "\" is no directive");
   }
   if (ContainsNoCase(line.child, "GlobalObject")) {

@@ -1,10 +1,12 @@
 #include "toolbelt/verify/ScriptWalk.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/FatalError.h"
 #include "base/Text.h"
 #include "object/StatementTokens.h"
+#include "script/Pattern.h"
 
 namespace quendle {
 namespace {
@@ -31,11 +33,25 @@ StateSet RegionsOf(const ModelObject& object) {
   return regions;
 }
 
+bool LeadsToAState(StatementMeaning meaning) {
+  switch (meaning) {
+    case StatementMeaning::kState:
+    case StatementMeaning::kPassingState:
+      return true;
+    case StatementMeaning::kMessage:
+    case StatementMeaning::kSound:
+    case StatementMeaning::kNothing:
+      return false;
+  }
+  return false;
+}
+
 class Walker {
  public:
   Walker(const ModelObject& object,
-         const std::function<void(const Command&, const StateSet&)>& visit)
-      : object_(object), visit_(visit) {}
+         const std::function<void(const Command&, const StateSet&)>& visit,
+         const ActionText* action = nullptr)
+      : object_(object), visit_(visit), action_(action) {}
 
   // Gives the states behind the node.
   StateSet Walk(const Command& node, StateSet states) {
@@ -53,6 +69,7 @@ class Walker {
 
  private:
   StateSet WalkChoice(const Command& node, const StateSet& states) {
+    if (action_ != nullptr) return WalkTaken(node, states);
     StateSet behind;
     bool always = false;  // some branch is taken
     for (const Command& branch : node.Children()) {
@@ -64,10 +81,18 @@ class Walker {
     return behind;
   }
 
+  StateSet WalkTaken(const Command& node, const StateSet& states) {
+    for (const Command& branch : node.Children()) {
+      const Pattern* pattern = branch.DecidingPattern();
+      const bool taken = branch.Type() == NodeType::kBoolElse ||
+                         (pattern != nullptr && pattern->Matches(*action_));
+      if (taken) return Walk(branch, states);
+    }
+    return states;
+  }
+
   StateSet Turned(const Statement& statement, const StateSet& states) const {
-    const bool turns =
-        statement.Verb() == StatementVerb::kChange || statement.Verb() == StatementVerb::kRunState;
-    if (!turns || SplitTokens(statement.Text(), ' ').size() < 2) return states;
+    if (!LeadsToAState(statement.Meaning()) || !statement.HasArgument()) return states;
     StateSet turned;
     for (const std::string& state : states) {
       for (const std::string& next : ExpandWord(object_, statement.Argument(), {state})) {
@@ -80,6 +105,7 @@ class Walker {
 
   const ModelObject& object_;
   const std::function<void(const Command&, const StateSet&)>& visit_;
+  const ActionText* action_;  // null when every branch is walked
 };
 
 }  // namespace
@@ -87,6 +113,12 @@ class Walker {
 void WalkScript(const ModelObject& object, const ModelScript& script, const Command& root,
                 const std::function<void(const Command&, const StateSet&)>& visit) {
   Walker(object, visit).Walk(root, StatesOf(object, script));
+}
+
+StateSet WalkEvent(const ModelObject& object, const Command& root, const ActionText& action,
+                   const StateSet& states,
+                   const std::function<void(const Command&, const StateSet&)>& visit) {
+  return Walker(object, visit, &action).Walk(root, states);
 }
 
 std::vector<std::string> ExpandWord(const ModelObject& object, const std::string& word,

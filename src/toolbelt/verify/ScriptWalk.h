@@ -9,6 +9,8 @@
 
 namespace quendle {
 
+class ActionText;
+
 // States in which an object can be.
 using StateSet = std::set<std::string>;
 
@@ -17,6 +19,12 @@ using StateSet = std::set<std::string>;
 // turned them.
 void WalkScript(const ModelObject& object, const ModelScript& script, const Command& root,
                 const std::function<void(const Command&, const StateSet&)>& visit);
+
+// The same for the statements that one event runs: of each choice the branch that `action` takes.
+// `states` are those in which the object can be when the event comes; gives those behind it.
+StateSet WalkEvent(const ModelObject& object, const Command& root, const ActionText& action,
+                   const StateSet& states,
+                   const std::function<void(const Command&, const StateSet&)>& visit);
 
 // All that the second word of a statement can become: tokens stand for the object, for each of the
 // states, and for each region. One word where it holds no token.

@@ -1,6 +1,7 @@
 #include "toolbelt/verify/SideList.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Text.h"
 #include "base/TextStream.h"

@@ -23,7 +23,7 @@ bool HoldsContent(const ContentListing& listing) {
 constexpr void (*kChecks[])(const CheckContext&) = {
     CheckObjects,  CheckStates,   CheckFrames,   CheckSpeech, CheckScripts,
     CheckPatterns, CheckMessages, CheckPatients, CheckNames,  CheckScreens,
-    CheckPictures, CheckSounds,   CheckFiles,
+    CheckPictures, CheckSounds,   CheckFiles,    CheckTrees,
 };
 
 }  // namespace

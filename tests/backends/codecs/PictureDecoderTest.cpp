@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "backends/codecs/PictureDecoderLoader.h"
@@ -203,6 +204,15 @@ TEST(PictureDecoder, APhotographJustBelowFiftyMillionPointsIsDecoded) {
   ASSERT_EQ(decoded.problem, "");
   EXPECT_EQ(decoded.picture.size, (Size{1075, 725}));
   EXPECT_EQ(decoded.picture.At(1074, 724), 0x808080u);
+}
+
+TEST(PictureDecoder, AJpegOfMoreThanSixtyMillionBytesIsRefused) {
+  std::string bytes = TestData("photograph.jpg");
+  bytes.resize(60'000'000, '\0');
+  EXPECT_EQ(DecodePicture(bytes).problem, "");
+  bytes += '\0';
+  EXPECT_EQ(DecodePicture(bytes).problem,
+            "This file is too large for a photograph. Please choose another one.");
 }
 
 TEST(PictureDecoder, MoreThanFiftyMillionPointsAreRefusedBeforeAnythingIsDecoded) {

@@ -1,6 +1,7 @@
 #include "backends/codecs/WmaFile.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <stdexcept>
 

@@ -3,12 +3,16 @@
 #include <SDL.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <filesystem>
+
 #include "backends/desktop/DesktopClock.h"
 #include "backends/desktop/DesktopFormHost.h"
 #include "backends/desktop/FontFinder.h"
 #include "backends/desktop/SdlFonts.h"
 #include "backends/desktop/SdlLibrary.h"
 #include "backends/raster/RasterScreen.h"
+#include "support/TemporaryFolder.h"
 
 namespace quendle {
 namespace {
@@ -26,9 +30,12 @@ class DroppedFiles : public FormEvents {
   void PointerOver(Control&) override {}
   void Press(Control&, Point) override {}
   void Key(FormKey) override { ++keys; }
-  void QueryClose() override {}
+  void QueryClose() override { ++closes; }
+  void EndProgram() override { ++ends; }
   std::vector<std::string> paths;
   int keys = 0;
+  int closes = 0;
+  int ends = 0;
   bool welcome = true;
 };
 
@@ -72,6 +79,12 @@ class DesktopBoxesTest : public ::testing::Test {
     event.type = SDL_KEYDOWN;
     event.key.windowID = window;
     event.key.keysym.sym = code;
+    SDL_PushEvent(&event);
+  }
+  // What a signal to end becomes.
+  static void Quit() {
+    SDL_Event event{};
+    event.type = SDL_QUIT;
     SDL_PushEvent(&event);
   }
   // A file let go over a window.
@@ -147,6 +160,50 @@ TEST_F(DesktopBoxesTest, KeysAreTheBoxesWhicheverWindowHasTheKeyboard) {
   Key(SDLK_RETURN);
   Pump();
   EXPECT_EQ(events_.keys, 1) << "without a box they are the form's";
+}
+
+TEST_F(DesktopBoxesTest, ASignalToEndIsMoreThanClosingTheForm) {
+  Quit();
+  Pump();
+  EXPECT_EQ(events_.ends, 1);
+  EXPECT_EQ(events_.closes, 0);
+}
+
+TEST_F(DesktopBoxesTest, ASignalToEndReachesAFormThatIsJustPutOnScreen) {
+  ShowOnly(second_);
+  first_.visible = second_.visible = false;
+  Pump();
+  EXPECT_EQ(loop_.WindowInUse(), 0u);
+  second_.visible = true;
+  Quit();
+  Pump();
+  EXPECT_EQ(events_.ends, 1);
+}
+
+TEST_F(DesktopBoxesTest, ASignalToEndClosesTheBoxesAndIsThenToldToTheForm) {
+  const int id = loop_.Timers().SetTimer(Milliseconds(10), "quit", [](int) { Quit(); });
+  EXPECT_FALSE(boxes_.YesNoBox("Title", "Go on?"));
+  loop_.Timers().KillTimer(id);
+  EXPECT_EQ(events_.ends, 0) << "who asked has the answer first";
+  EXPECT_FALSE(boxes_.YesNoBox("Title", "Really?")) << "and whatever else is asked is closed, too";
+  Pump();
+  EXPECT_EQ(events_.ends, 1);
+  EXPECT_EQ(events_.closes, 0);
+}
+
+TEST_F(DesktopBoxesTest, ASignalToEndClosesTheChooserOfTheDesktop) {
+  const TemporaryFolder helpers;
+  helpers.Make("zenity", "#!/bin/sh\nexec sleep 100\n");
+  std::filesystem::permissions(helpers.Path() / "zenity", std::filesystem::perms::owner_all);
+  const std::string before = std::getenv("PATH");
+  setenv("PATH", (helpers.Path().string() + ":" + before).c_str(), 1);
+  unsetenv("XDG_CURRENT_DESKTOP");
+  const int id = loop_.Timers().SetTimer(Milliseconds(10), "quit", [](int) { Quit(); });
+  EXPECT_EQ(boxes_.ChooseFile("Title", {{"All", "*"}}), "");
+  loop_.Timers().KillTimer(id);
+  setenv("PATH", before.c_str(), 1);
+  Pump();
+  EXPECT_EQ(events_.ends, 1);
 }
 
 TEST_F(DesktopBoxesTest, AFileDroppedOnAFormReachesIt) {

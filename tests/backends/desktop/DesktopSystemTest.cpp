@@ -4,6 +4,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
+
 #include "support/TemporaryFolder.h"
 
 namespace quendle {
@@ -67,6 +69,27 @@ TEST(DesktopSystem, OnlyWebPagesAndMailAreHandedToTheDesktop) {
   EXPECT_EQ(ShellAddress("-option@quendle.example"), "");
   EXPECT_EQ(ShellAddress("https://a.example/ b"), "");
   EXPECT_EQ(ShellAddress(""), "");
+}
+
+// Without the desktop's opener a page isn't opened, and that is all: no process of ours goes on.
+TEST(DesktopSystem, APageThatCannotBeOpenedIsIgnored) {
+  const char* path = std::getenv("PATH");
+  const std::string before = path == nullptr ? "" : path;
+  ASSERT_EQ(setenv("PATH", "/nowhere", 1), 0);
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+  const pid_t self = getpid();
+  DesktopSystem("unused.lock", {}).OpenInShell("https://www.quendle.example");
+  if (getpid() != self) {
+    // A helper that has returned: it says so, and runs no further test.
+    const bool told = write(ends[1], "x", 1) == 1;
+    _exit(told ? 0 : 1);
+  }
+  close(ends[1]);
+  char said = 0;
+  EXPECT_EQ(read(ends[0], &said, 1), 0) << "the pipe ends with the last helper";
+  close(ends[0]);
+  setenv("PATH", before.c_str(), 1);
 }
 
 }  // namespace

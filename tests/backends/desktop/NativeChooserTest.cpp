@@ -13,14 +13,22 @@ namespace {
 
 using Names_ = std::vector<std::string>;
 
-TEST(NativeChooser, HelpersGetTitleFolderAndFilters) {
-  const std::vector<FileFilter> filters = {{"All", "*.jpg;*.gif"}, {"GIF", "*.gif"}};
-  EXPECT_EQ(ChooserCommand("zenity", "T", filters, "/p"),
+const std::vector<FileFilter> kFilters = {{"All Pictures (*.jpg, *.gif)", "*.jpg;*.gif"},
+                                          {"JPEG", "*.Jp*g"}};
+
+// It tells the cases of letters apart.
+TEST(NativeChooser, ZenityGetsTitleFolderAndPatternsForEitherCase) {
+  EXPECT_EQ(ChooserCommand("zenity", "T", kFilters, "/p"),
             (Names_{"zenity", "--file-selection", "--title=T", "--filename=/p/",
-                    "--file-filter=All | *.jpg *.gif", "--file-filter=GIF | *.gif"}));
-  EXPECT_EQ(
-      ChooserCommand("kdialog", "T", filters, "/p"),
-      (Names_{"kdialog", "--title", "T", "--getopenfilename", "/p", "*.jpg *.gif|All\n*.gif|GIF"}));
+                    "--file-filter=All Pictures (*.jpg, *.gif) | *.[jJ][pP][gG] *.[gG][iI][fF]",
+                    "--file-filter=JPEG | *.[jJ][pP]*[gG]"}));
+}
+
+// It doesn't, and takes the patterns from the last brackets of a line.
+TEST(NativeChooser, KdialogGetsTitleFolderAndALineForEachFilter) {
+  EXPECT_EQ(ChooserCommand("kdialog", "T", kFilters, "/p"),
+            (Names_{"kdialog", "--title", "T", "--getopenfilename", "/p",
+                    "All Pictures (*.jpg *.gif)\nJPEG (*.Jp*g)"}));
 }
 
 // Runs a helper of the test's own instead of the desktop's.

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -251,6 +252,83 @@ TEST_F(DiskFileSystemTest, LeftoversOfAKilledWriterAreUnseenAndClearedWhenOld) {
   ASSERT_TRUE(files.Write(At("\\a.txt"), "a"));
   EXPECT_EQ(content_.Names(), (Names{"a.txt", ".unfinished-2-0"}))
       << "the young one may be at work";
+}
+
+TEST_F(DiskFileSystemTest, LeftoversWithADateInTheFutureAreClearedAsWell) {
+  content_.Put(".unfinished-1-0", "half");
+  timespec tomorrow[2] = {{std::time(nullptr) + 86'400, 0}, {std::time(nullptr) + 86'400, 0}};
+  ASSERT_EQ(utimensat(AT_FDCWD, (content_ / ".unfinished-1-0").c_str(), tomorrow, 0), 0);
+  ASSERT_TRUE(Open().Write(At("\\a.txt"), "a"));
+  EXPECT_EQ(content_.Names(), (Names{"a.txt"}));
+}
+
+// Takes away all descriptors, as a program does that leaks them.
+class NoDescriptors {
+ public:
+  NoDescriptors() {
+    getrlimit(RLIMIT_NOFILE, &old_);
+    const rlimit none{0, old_.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
+  }
+  ~NoDescriptors() { setrlimit(RLIMIT_NOFILE, &old_); }
+  NoDescriptors(const NoDescriptors&) = delete;
+  NoDescriptors& operator=(const NoDescriptors&) = delete;
+
+ private:
+  rlimit old_{};
+};
+
+TEST_F(DiskFileSystemTest, WhatCannotBeOpenedIsNotTakenForMissing) {
+  content_.Put("userdata.txt", "saved");
+  for (const bool known : {false, true}) {
+    for (const bool layered : {false, true}) {
+      DiskFileSystem files = layered ? OpenWithPlayer() : Open();
+      if (known) files.Exists(At("\\userdata.txt"));
+      FileAnswer answer;
+      FileChange written;
+      FileChange removed;
+      bool exists = false;
+      {
+        const NoDescriptors none;
+        answer = files.Read(At("\\userdata.txt"));
+        exists = files.Exists(At("\\userdata.txt"));
+        written = files.Write(At("\\userdata.txt"), "new");
+        removed = files.Remove(At("\\userdata.txt"));
+      }
+      EXPECT_FALSE(answer.IsMissing());
+      EXPECT_EQ(answer.reason, "Too many open files");
+      EXPECT_TRUE(exists);
+      EXPECT_FALSE(written);
+      EXPECT_EQ(written.reason, "Too many open files");
+      EXPECT_FALSE(removed);
+      EXPECT_EQ(files.Read(At("\\userdata.txt")), "saved") << "once it can be opened again";
+      EXPECT_EQ(content_.Get("userdata.txt"), "saved");
+    }
+  }
+}
+
+TEST_F(DiskFileSystemTest, AnErrorOfThePlayersFolderDoesNotShowTheFileBelow) {
+  content_.Put("userdata.txt", "of the author");
+  player_.Put("userdata.txt", "of the player");
+  DiskFileSystem files = OpenWithPlayer();
+  content_.Get("userdata.txt");
+  EXPECT_EQ(files.Read(At("\\userdata.txt")), "of the player");
+  const NoDescriptors none;
+  EXPECT_FALSE(files.Read(At("\\userdata.txt")).has_value());
+}
+
+TEST_F(DiskFileSystemTest, WhatIsNotThereIsMissing) {
+  content_.Put("file.txt", "");
+  std::filesystem::create_symlink("loop.txt", content_ / "loop.txt");
+  std::filesystem::create_symlink("nowhere", content_ / "dangling.txt");
+  for (const bool layered : {false, true}) {
+    DiskFileSystem files = layered ? OpenWithPlayer() : Open();
+    for (const char* path :
+         {"\\none.txt", "\\none\\a.txt", "\\file.txt\\a.txt", "\\loop.txt", "\\dangling.txt"}) {
+      EXPECT_TRUE(files.Read(At(path)).IsMissing()) << path;
+      EXPECT_FALSE(files.Exists(At(path))) << path;
+    }
+  }
 }
 
 TEST_F(DiskFileSystemTest, ThePlayersFolderIsReadFirstAndTakesAllWrites) {

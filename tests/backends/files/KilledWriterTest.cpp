@@ -84,7 +84,7 @@ TEST(KilledWriter, AFailureAtEveryStepLeavesTheOldOrTheNewFile) {
       Faults faults;
       DiskFileSystem files({content.Path(), "", ""}, faults);
       faults.Plan(operation, after, 1, false);
-      bool written = files.Write(content.Path() + "\\userdata.txt", kNew);
+      const bool written = !!files.Write(content.Path() + "\\userdata.txt", kNew);
       bool behind_rename = operation == "flushfolder";
       EXPECT_EQ(content.Get("userdata.txt"), written || behind_rename ? kNew : kOld)
           << operation << " " << after;

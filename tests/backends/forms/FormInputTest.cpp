@@ -137,7 +137,7 @@ TEST_F(FormInputTest, TypedTextGoesToTheFieldInTheCharactersOfContent) {
   Add(ControlKind::kText, "field", {10, 50, 110, 90});
   input_.Type("Zo\xC3\xA9!");
   EXPECT_EQ(form_.controls[0].text, "Zo\xE9!");
-  input_.Type("\xE2\x98\x83");
+  input_.Type("\xE2\x98\x83");  // a snowman
   EXPECT_EQ(form_.controls[0].text, "Zo\xE9!");
   input_.Erase();
   input_.Erase();

@@ -56,6 +56,16 @@ TEST_F(PictureChooserTest, ShowsTheFolderAboveFoldersAndPictures) {
   EXPECT_EQ(Names(), (Names_{"(folder above)", "inside", "a.jpg", "b.gif", "broken.jpg"}));
 }
 
+TEST_F(PictureChooserTest, NamesKeepAllLettersThatContentCanHold) {
+  folder.Make(
+      "\xC5\xA0"
+      "ime\xE2\x80\x99s \xE2\x82\xAC.jpg");
+  Open();
+  EXPECT_EQ(Names().back(),
+            "\x8A"
+            "ime\x92s \x80.jpg");
+}
+
 TEST_F(PictureChooserTest, ReadsOneSmallPictureAtATimeAndEachOnce) {
   PictureChooser& form = Open();
   EXPECT_TRUE(form.ReadNextPicture());

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "backends/raster/BitmapWriter.h"
@@ -21,16 +22,19 @@ class PictureFiles : public FileSystem {
   void Put(const std::string& path, std::string bytes) { files_[Fold(path)] = std::move(bytes); }
 
   bool Exists(std::string_view path) override { return files_.contains(Fold(path)); }
-  std::optional<std::string> Read(std::string_view path) override {
+  FileAnswer Read(std::string_view path) override {
     auto found = files_.find(Fold(path));
-    if (found == files_.end()) return std::nullopt;
+    if (found == files_.end()) return FileAnswer();
     return found->second;
   }
-  bool Write(std::string_view path, std::string_view bytes) override {
+  FileChange Write(std::string_view path, std::string_view bytes) override {
     files_[Fold(path)] = std::string(bytes);
-    return true;
+    return FileChange::Done();
   }
-  bool Remove(std::string_view path) override { return files_.erase(Fold(path)) > 0; }
+  FileChange Remove(std::string_view path) override {
+    files_.erase(Fold(path));
+    return FileChange::Done();
+  }
   std::unique_ptr<LineWriter> CreateLineFile(std::string_view) override { return nullptr; }
 
  private:
