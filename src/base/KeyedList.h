@@ -17,7 +17,7 @@ template <class T>
 class KeyedList {
  public:
   struct Entry {
-    std::string key;  // empty for an entry without one
+    std::string key;  // a blank one is a key like any other
     T value;
   };
 
@@ -36,7 +36,6 @@ class KeyedList {
   void AddRepeatable(T value, std::string key) {
     entries_.push_back({std::move(key), std::move(value)});
   }
-  void Add(T value) { entries_.push_back({std::string(), std::move(value)}); }
 
   std::size_t Count() const { return entries_.size(); }
   bool Empty() const { return entries_.empty(); }
@@ -52,7 +51,7 @@ class KeyedList {
   T* Find(std::string_view key) { return const_cast<T*>(std::as_const(*this).Find(key)); }
   const T* Find(std::string_view key) const {
     for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
-      if (!entry->key.empty() && EqualsNoCase(entry->key, key)) return &entry->value;
+      if (EqualsNoCase(entry->key, key)) return &entry->value;
     }
     return nullptr;
   }
@@ -66,10 +65,10 @@ class KeyedList {
   void RemoveAt(std::size_t index) {
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(Checked(index)));
   }
-  // Removes the first entry of that key; without one nothing happens. No entry has the empty key.
+  // Removes the first entry of that key; without one nothing happens.
   void Remove(std::string_view key) {
     for (auto entry = entries_.begin(); entry != entries_.end(); ++entry) {
-      if (!entry->key.empty() && EqualsNoCase(entry->key, key)) {
+      if (EqualsNoCase(entry->key, key)) {
         entries_.erase(entry);
         return;
       }

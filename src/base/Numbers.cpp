@@ -35,15 +35,6 @@ Int Narrow(double value, std::string_view what, const FilePlace& place) {
   return static_cast<Int>(rounded);
 }
 
-double NumberFromText(std::string_view text, std::string_view what, const FilePlace& place) {
-  std::optional<double> value = ParseNumber(text);
-  if (!value) {
-    throw FatalError("\"" + std::string(text) + "\" is not a number (" + std::string(what) + ")",
-                     place);
-  }
-  return *value;
-}
-
 }  // namespace
 
 double RoundHalfEven(double value) {
@@ -73,6 +64,15 @@ std::int16_t ToInt16(double value, std::string_view what, const FilePlace& place
 
 std::int32_t ToInt32(double value, std::string_view what, const FilePlace& place) {
   return Narrow<std::int32_t>(value, what, place);
+}
+
+double NumberFromText(std::string_view text, std::string_view what, const FilePlace& place) {
+  std::optional<double> value = ParseNumber(text);
+  if (!value) {
+    throw FatalError("\"" + std::string(text) + "\" is not a number (" + std::string(what) + ")",
+                     place);
+  }
+  return *value;
 }
 
 std::int16_t Int16FromText(std::string_view text, std::string_view what, const FilePlace& place) {

@@ -23,7 +23,8 @@ double LeadingNumber(std::string_view text);
 std::int16_t ToInt16(double value, std::string_view what, const FilePlace& place = {});
 std::int32_t ToInt32(double value, std::string_view what, const FilePlace& place = {});
 
-// A text that must be a number, rounded to 16 or 32 bits. Any other text is fatal.
+// A text that must be a number, as it stands and rounded to 16 or 32 bits. Any other text is fatal.
+double NumberFromText(std::string_view text, std::string_view what, const FilePlace& place = {});
 std::int16_t Int16FromText(std::string_view text, std::string_view what,
                            const FilePlace& place = {});
 std::int32_t Int32FromText(std::string_view text, std::string_view what,

@@ -7,10 +7,10 @@
 
 namespace quendle {
 
-// True if the text is empty.
+// True if the text is empty. Nothing asks for it.
 bool SF_isNothing(std::string_view text);
 
-// Position (from 1) of the last occurrence of the needle, or 0.
+// Position (from 1) of the last occurrence of the needle, or 0. Nothing asks for it.
 int SF_InstrRev(std::string_view haystack, std::string_view needle);
 
 // The haystack with the first occurrence of the needle taken out.
@@ -24,7 +24,7 @@ std::string SF_replace(std::string_view haystack, std::string_view needle,
 // What stands before the first occurrence.
 std::string SF_splitLeft(std::string_view haystack, std::string_view needle);
 
-// What stands behind the first occurrence.
+// What stands behind the first occurrence. Nothing asks for it.
 std::string SF_splitRight(std::string_view haystack, std::string_view needle);
 
 }  // namespace quendle

@@ -33,7 +33,7 @@ std::string JoinTokens(const std::vector<std::string>& tokens, std::size_t from,
 // Without the first "tool" and then the first "cursor": "handcursor" gives "hand".
 std::string StripToolWords(std::string_view name);
 
-// The first ".wav" becomes ".wma", case ignored.
+// The first ".wav" becomes ".wma", case ignored. Nothing asks for it: a sound replaces each one.
 std::string WavToWma(std::string_view path);
 
 // Text in UTF-8 of 8-bit text, for output that people and tools read.

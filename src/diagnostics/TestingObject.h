@@ -41,6 +41,7 @@ class TestingObject : public EventSink {
   void LogEvent(std::string_view message, int level, std::string_view category) override;
 
   // Where messages go. The window takes them only while the file doesn't; null for none.
+  // Nothing asks for the two: the log of a game is its file.
   void SetWriteToFile(bool on) { write_to_file_ = on; }
   void SetWriteToWindow(Debomb_Window* window) { window_ = window; }
   // A window that takes each accepted message beside the file, so that the file misses none; null

@@ -50,6 +50,9 @@ void GameLogicLayer::Initialize(ContextHandle window_context, const std::string&
   m_ptrScreenKeeper = std::make_unique<ScreenKeeper>(world_);
   m_ptrScreenKeeper->InitializeScreenKeeper("\\Info\\screens.txt", weak_from_this(),
                                             window_context);
+  m_ptrScreenKeeper->SpareWhile([this](const GameObjectInterface& screen) {
+    return &screen == m_ptrCurrentScreen.get() || &screen == m_ptrPreviousScreen.get();
+  });
   back_buffer_.emplace(world_.media.ports.gdi, window_context, Size{kFrameWidth, kFrameHeight});
   ReadHelpMemory();
   m_ptrScreenKeeper->LoadGame(saved_game);

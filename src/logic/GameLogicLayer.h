@@ -155,7 +155,7 @@ class GameLogicLayer : public MessageTarget, public std::enable_shared_from_this
   void KillDrawTimer();
   void TakeWalkStep(const std::function<void(ScreenWalk&)>& step);
   void VisitScreen(const ScreenWalk& walk);
-  void EndWalk(ScreenWalk& walk);
+  void KillWalkTimer(ScreenWalk& walk);
 
   ObjectWorld& world_;
   GameHost& host_;

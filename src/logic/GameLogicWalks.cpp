@@ -33,7 +33,8 @@ void GameLogicLayer::EnumerateScreenVerification() {
       Send(message);
       ++walk.word;
     } else {
-      EndWalk(walk);
+      KillWalkTimer(walk);
+      Send("exitgame");
     }
   });
 }
@@ -45,8 +46,9 @@ void GameLogicLayer::EnumerateScreen2Verification() {
       ++walk.screen;
       return;
     }
+    KillWalkTimer(walk);
     world_.LogGeneral("Exiting Game", kScreenLevel);
-    EndWalk(walk);
+    Send("exitgame");
   });
 }
 
@@ -67,10 +69,9 @@ void GameLogicLayer::VisitScreen(const ScreenWalk& walk) {
   host_.Beep();
 }
 
-void GameLogicLayer::EndWalk(ScreenWalk& walk) {
+void GameLogicLayer::KillWalkTimer(ScreenWalk& walk) {
   world_.media.ports.timers.KillTimer(walk.timer);
   walk.timer = 0;
-  Send("exitgame");
 }
 
 }  // namespace quendle

@@ -16,7 +16,7 @@ class BitmapObject {
   std::int16_t height() const { return height_; }
   std::int16_t width() const { return width_; }
 
-  // Not finished and always 0: no caller needs single channels.
+  // Nothing asks for single channels: always 0.
   std::int16_t GetRed(int, int) const { return 0; }
   std::int16_t GetGreen(int, int) const { return 0; }
   std::int16_t GetBlue(int, int) const { return 0; }
@@ -27,7 +27,7 @@ class BitmapObject {
   // Copies a rectangle of a context. Sizes beyond 16 bits are fatal.
   void GenerateBitmap(ContextHandle source, int width, int height, int source_x, int source_y);
 
-  // The memory context; 0 before GenerateBitmap.
+  // The memory context; 0 before GenerateBitmap. Nothing asks for it: a copy is read, not drawn.
   ContextHandle GetHandle() const { return copy_ ? copy_->Context() : 0; }
 
  private:

@@ -22,7 +22,7 @@ DShowObj::~DShowObj() = default;
 void DShowObj::Remove() {
   if (control_) control_->Stop();
   control_.reset();
-  audio_ = event_ = position_ = ran_ = false;
+  audio_ = event_ = position_ = ran_ = paused_ = false;
   file_.clear();
 }
 
@@ -46,17 +46,20 @@ void DShowObj::Play() {
   control_->SetPosition(0);
   control_->Run();
   ran_ = true;
+  paused_ = false;
 }
 
 void DShowObj::Pause() {
-  if (control_) control_->Pause();
+  if (!control_) return;
+  control_->Pause();
+  paused_ = ran_;
 }
 
 void DShowObj::StopSound() {
   if (!position_) return;
   control_->Stop();
   control_->SetPosition(0);
-  ran_ = false;
+  ran_ = paused_ = false;
 }
 
 void DShowObj::SeekSound(double seconds) {

@@ -34,6 +34,8 @@ class DShowObj {
   // True from Play, also while paused, until the end or StopSound. Waits up to `timeout`
   // milliseconds for the end.
   bool StillPlaying(long timeout);
+  // True from Pause until it plays again or is stopped.
+  bool Paused() const { return paused_; }
 
   // Speed, 1.0 as normal; 0 or less becomes 0.1. A speed that the platform refuses is fatal.
   double GetRate() const;
@@ -61,6 +63,7 @@ class DShowObj {
   bool event_ = false;
   bool position_ = false;
   bool ran_ = false;  // since the last stop
+  bool paused_ = false;
   std::string file_;
 };
 

@@ -51,7 +51,8 @@ struct ColorChannels {
   friend bool operator==(const ColorChannels&, const ColorChannels&) = default;
 };
 
-// The channels of a packed colour, red in the low byte.
+// The channels of a packed colour, red in the low byte. Nothing asks for them: colours are compared
+// packed.
 ColorChannels SplitColor(Color color);
 
 // Copies the top left `size` of `source` to `to`, leaving the destination where the source has the

@@ -33,9 +33,11 @@ class SoundState {
   void SetName(std::string name) { name_ = std::move(name); }
   // Full path of the file that is played.
   const std::string& Sound() const { return sound_; }
+  // Nothing asks for it: Initialize sets the path.
   void SetSound(std::string path) { sound_ = std::move(path); }
   // Kept and shown; no sound repeats by itself.
   bool DoWeLoop() const { return loop_; }
+  // Nothing asks for it: SetLoopState sets it from the word.
   void SetDoWeLoop(bool loop) { loop_ = loop; }
 
   // True from PlaySound until the end of the sound or StopSound.

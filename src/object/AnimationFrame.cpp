@@ -36,15 +36,15 @@ Placement WithDrawSize(std::string_view text, char delimiter, const FilePlace& p
 
 Placement WithStep(std::string_view text, const FilePlace& place) {
   Halves halves = SplitWithoutBlanks(text, '+');
-  std::int32_t step = Int32FromText(halves.second, "step of a placement", place);
+  const double step = NumberFromText(halves.second, "step of a placement", place);
   if (!ContainsNoCase(halves.first, "stable")) {
-    double sum = static_cast<double>(Int32FromText(halves.first, "placement", place)) + step;
+    const double sum = NumberFromText(halves.first, "placement", place) + step;
     return {ToInt32(sum, "placement", place), 0};
   }
   if (step == 0) {
     throw FatalError::WithBox("Error: Cannot have the line 'stable+0'", place);
   }
-  return {ToInt32(-static_cast<double>(step), "placement", place), 0};
+  return {ToInt32(-step, "placement", place), 0};
 }
 
 FrameRecord ReadFrameRecord(TextStream& stream) {

@@ -277,7 +277,7 @@ class GameObject final : public GameObjectInterface, public Inspectable, public 
   KeyedList<std::shared_ptr<SoundState>> Sounds_{"sound state"};
   KeyedList<std::shared_ptr<ScriptState>> Scripts_{"script"};
   KeyedList<FrameRef> Frames_{"frame"};
-  KeyedList<std::vector<Region>> FrameRegions_{"list of regions"};
+  KeyedList<std::vector<Region>> FrameRegions_{"region list"};
   std::unique_ptr<DShowObj> player_;
 
   // Changes in play.

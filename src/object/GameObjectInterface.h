@@ -29,7 +29,7 @@ class GameObjectInterface;
 using ObjectRef = std::shared_ptr<GameObjectInterface>;
 using ObjectList = KeyedList<ObjectRef>;
 
-// The eleven arguments of a load, in their order.
+// What a load is given: the lines of the object file, and where the object will hang.
 struct LoadArguments {
   std::string type;
   std::string name;
@@ -42,7 +42,7 @@ struct LoadArguments {
   std::weak_ptr<GameObjectInterface> outer;
   std::string directives;
   ContextHandle context = 0;
-  // Beside the eleven: the object file itself, full path. A play area reads on in it.
+  // The object file itself, full path: a play area reads on in it.
   std::string object_file;
 };
 

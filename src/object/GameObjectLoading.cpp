@@ -132,7 +132,7 @@ void GameObject::LoadFrames(const std::string& path) {
     if (std::string regions = LoadCurrentDirectory(record.region_file); !IsNothing(regions)) {
       auto region_stream = files.OpenTextFileChecked(FullPath(regions), OpenMode::kRead, false);
       frame.RegionKey = frame.FrameName;
-      FrameRegions_.AddRepeatable(LoadRegions(*region_stream), frame.FrameName);
+      FrameRegions_.Add(LoadRegions(*region_stream), frame.FrameName, record.place);
     }
     // Two frames may share a name; every search takes the last.
     Frames_.AddRepeatable(std::make_shared<AnimationFrame>(frame), frame.FrameName);

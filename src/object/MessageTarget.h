@@ -11,7 +11,7 @@ class MessageTarget {
  public:
   virtual ~MessageTarget() = default;
   // Carries out a message or passes it on. `sender` may be null and lives during the call.
-  // Verifying, only `result` answers; it is written at the points told for each verb, so the caller
+  // Verifying, only `result` answers, and a verb that has no answer leaves it as it is: the caller
   // sets it first.
   virtual void HandleMessage(const std::string& message, GameObjectInterface* sender,
                              bool verifying, bool& result) = 0;

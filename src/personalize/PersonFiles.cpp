@@ -36,8 +36,7 @@ void SavePersonPicture(const PersonalizeServices& services, const std::string& n
                        const Picture& picture) {
   const std::string path = PersonFile(services, name);
   if (services.saver.SavePicture(path, picture)) return;
-  throw FatalError("the picture " + services.forms.files.DisplayName(path) +
-                   " could not be written");
+  throw FatalError("the picture could not be written", {services.forms.files.DisplayName(path), 0});
 }
 
 bool PhotographCanBeRemoved(const PersonalizeServices& services) {

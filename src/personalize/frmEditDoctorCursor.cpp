@@ -95,8 +95,8 @@ std::unique_ptr<MemoryBitmap> frmEditDoctorCursor::Load(const char* name) {
   const std::string path = PersonFile(personalize_, name);
   const BitmapHandle bitmap = gdi.LoadImageA(path);
   if (bitmap == 0) {
-    throw FatalError("the picture " + services_.files.DisplayName(path) +
-                     " can't be loaded: " + gdi.WhyNotLoaded());
+    throw FatalError("the picture can't be read: " + gdi.WhyNotLoaded(),
+                     {services_.files.DisplayName(path), 0});
   }
   return std::make_unique<MemoryBitmap>(gdi, 0, bitmap);
 }

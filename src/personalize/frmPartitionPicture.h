@@ -30,6 +30,7 @@ class frmPartitionPicture : public WizardForm {
   // Names the outline; an empty answer changes nothing. No button leads here.
   void AskRegionName();
 
+  // Nothing asks for the two: a face has no name in play.
   const std::string& RegionName() const { return region_name_; }
   std::int16_t RegionFlag() const { return region_flag_; }
 

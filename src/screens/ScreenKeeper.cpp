@@ -102,12 +102,20 @@ void ScreenKeeper::MakeRoom() {
   const ScreenCacheEntry* victim = nullptr;
   for (const auto& entry : m_colScreenCache) {
     const ScreenCacheEntry& cached = entry.value;
-    if (!cached.m_bFreeToRelease || IsLayer(cached.m_ptrGameObject->ObjectName())) continue;
+    if (!MayGo(cached)) continue;
     if (victim == nullptr || cached.m_nAge > victim->m_nAge) victim = &cached;
   }
   if (victim == nullptr) return;
   ObjectRef screen = victim->m_ptrGameObject;
   ReleaseScreen(screen);
+}
+
+bool ScreenKeeper::MayGo(const ScreenCacheEntry& entry) const {
+  const GameObjectInterface& screen = *entry.m_ptrGameObject;
+  if (!entry.m_bFreeToRelease || IsLayer(screen.ObjectName())) return false;
+  // A screen that is entered anew from itself is both the one left and the one in view: it is freed
+  // as the former while it is still the latter.
+  return held_ == nullptr || !held_(screen);
 }
 
 void ScreenKeeper::FreeToReleaseScreen(const ObjectRef& screen) {

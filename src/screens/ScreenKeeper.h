@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "object/ObjectWorld.h"
@@ -37,11 +39,13 @@ class ScreenKeeper {
   // Reads the table (path from the base directory). `logic` becomes the parent of every screen.
   void InitializeScreenKeeper(const std::string& path, std::weak_ptr<MessageTarget> logic,
                               ContextHandle context);
+  // Tells which screens are held elsewhere: those never make room for others.
+  void SpareWhile(std::function<bool(const GameObjectInterface&)> held) { held_ = std::move(held); }
   // The screen as the player left it, live or newly built; nothing for an unknown name.
   ObjectRef GetScreen(const std::string& name);
   // The screen may make room for another. Nothing, or a screen not in the cache, is ignored.
   void FreeToReleaseScreen(const ObjectRef& screen);
-  // Applies the screen's saved state to it.
+  // Applies the screen's saved state to it. Nothing asks for RefreshScreen: the game loads.
   void RefreshScreen(const ObjectRef& screen) { RestoreMemento(screen); }
   void LoadScreen(const ObjectRef& screen) { RestoreMemento(screen); }
   // Takes the state of a cached screen. Tutorials and subgames aren't kept.
@@ -75,6 +79,7 @@ class ScreenKeeper {
   ObjectRef FindCached(const std::string& name);
   ObjectRef BuildScreen(const std::string& name);
   void MakeRoom();
+  bool MayGo(const ScreenCacheEntry& entry) const;
   GameObjectMemento::Ref TakeMemento(GameObjectInterface& screen) const;
   void StoreMemento(GameObjectMemento::Ref memento);
   void RestoreMemento(const ObjectRef& screen);
@@ -83,6 +88,7 @@ class ScreenKeeper {
   std::string FullPath(const std::string& file_name) const;
 
   ObjectWorld& world_;
+  std::function<bool(const GameObjectInterface&)> held_;
   KeyedList<ScreenCacheEntry> m_colScreenCache{"cached screen"};
   KeyedList<ScreenInfoEntry> m_colScreenInfo{"screen"};
   GameObjectMemento::List m_colMementos{"saved screen"};

@@ -21,6 +21,8 @@ class Pattern {
     return edge_.MayMatch(action) && MatchesSlowly(action);
   }
 
+ private:
+  enum class Kind { kEqual, kAtEnd, kAtFront };
   // The eight bytes at the edge that decides: one compare rejects nearly always.
   struct Edge {
     std::uint64_t word = 0;
@@ -28,10 +30,6 @@ class Pattern {
     std::size_t end = 0;  // 1 for the back of the text
     bool MayMatch(const ActionText& action) const { return (action.Edge(end) & mask) == word; }
   };
-  const Edge& GetEdge() const { return edge_; }
-
- private:
-  enum class Kind { kEqual, kAtEnd, kAtFront };
   bool MatchesSlowly(const ActionText& action) const;
 
   Kind kind_ = Kind::kEqual;

@@ -14,6 +14,7 @@ class BoardCanvas {
   // the display refuses stays empty.
   BoardCanvas(MediaWorld& world, ContextHandle like, int width, int height);
 
+  // Nothing asks for the two: the board is seen as its tiles.
   ContextHandle Context() const { return board_.Context(); }
   const SurfaceRef& OffScreen() const { return surface_; }
 

@@ -104,8 +104,8 @@ std::vector<std::string> ReadCellList(TextStream& stream) {
       throw FatalError("a cell list holds a blank line", stream.Place());
     }
   }
-  if (paths.size() < 3) {
-    throw FatalError("a cell list needs three lines: the player, an enemy, the shot",
+  if (paths.size() < 2) {
+    throw FatalError("a cell list needs lines for the player, its enemies and the shot",
                      stream.Place());
   }
   return paths;

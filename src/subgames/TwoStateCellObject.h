@@ -16,7 +16,7 @@ class TwoStateCellObject : public GoalCellObject {
   void TurnOn(std::int16_t area_width, std::int16_t area_height) override;
 
   void SwitchState();
-  // 0 is "default", 1 is "bad".
+  // 0 is "default", 1 is "bad". Nothing asks for it: a cell shows its state by itself.
   std::int16_t CellState() const { return state_; }
   // Ticks for which the cell still counts as hit.
   std::int16_t HitRecently() const { return hit_recently_; }

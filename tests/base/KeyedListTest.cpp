@@ -71,14 +71,15 @@ TEST(KeyedList, ARepeatableKeyIsReadFromItsLastEntry) {
   EXPECT_EQ(list.Item(1), 10);
 }
 
-TEST(KeyedList, EntriesWithoutAKeyAreReadByIndexOnly) {
-  KeyedList<int> list;
-  list.Add(1);
-  list.Add(2);
-  list.Add(3, "");
-  EXPECT_EQ(list.Count(), 3U);
-  EXPECT_EQ(list.Item(2), 2);
+TEST(KeyedList, ABlankKeyIsOneLikeAnyOther) {
+  KeyedList<int> list = ThreeStates();
+  list.Add(40, "");
+  ASSERT_NE(list.Find(""), nullptr);
+  EXPECT_EQ(*list.Find(""), 40);
+  EXPECT_EQ(FaultOf([&] { list.Add(50, ""); }), "there are two state entries named \"\"");
+  list.Remove("");
   EXPECT_EQ(list.Find(""), nullptr);
+  EXPECT_EQ(list.Count(), 3U);
 }
 
 TEST(KeyedList, AnIndexOutsideTheListIsFatal) {
@@ -114,13 +115,6 @@ TEST(KeyedList, RemovingAKeyThatIsNotThereDoesNothing) {
   KeyedList<int> list = ThreeStates();
   list.Remove("other");
   EXPECT_EQ(list.Count(), 3U);
-}
-
-TEST(KeyedList, RemovingTheEmptyKeyLeavesEntriesWithoutAKey) {
-  KeyedList<int> list;
-  list.Add(1);
-  list.Remove("");
-  EXPECT_EQ(list.Count(), 1U);
 }
 
 TEST(KeyedList, RemovesByIndexAndClears) {

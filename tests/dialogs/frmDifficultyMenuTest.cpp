@@ -18,7 +18,7 @@ struct frmDifficultyMenuTest : testing::Test, FormBench {
   }
 };
 
-TEST_F(frmDifficultyMenuTest, CaptionAndTextsAreAsTold) {
+TEST_F(frmDifficultyMenuTest, ItAsksForTheAgeInThreeGroups) {
   Form& form = Shown();
   EXPECT_EQ(form.caption, "Options Menu -- Wumbly");
   EXPECT_EQ(TextOf(form, "Label1"), "Select Child's Age...");

@@ -22,7 +22,7 @@ struct frmOptionsMenuTest : testing::Test, FormBench {
   std::unique_ptr<frmOptionsMenu> dialog;
 };
 
-TEST_F(frmOptionsMenuTest, CaptionAndTextsAreAsTold) {
+TEST_F(frmOptionsMenuTest, ItShowsFourGroupsOfOptionsAndTwoAddresses) {
   Form& form = Shown();
   EXPECT_EQ(form.name, "frmOptionsMenu");
   EXPECT_EQ(form.caption, "Options Menu -- Wumbly");
@@ -132,6 +132,14 @@ TEST_F(frmOptionsMenuTest, ResetDeletesTheSavedGameAndItsSnapshot) {
   EXPECT_EQ(File("userdata.txt"), "(none)");
   EXPECT_EQ(File("autosave.txt"), "(none)");
   EXPECT_EQ(File("HelpSys.txt"), "kept");
+}
+
+TEST_F(frmOptionsMenuTest, TheResetBoxIsEmptyEachTimeTheOptionsAreOpened) {
+  Form& form = Shown();
+  host.Press("chkResetGame");
+  EXPECT_EQ(ValueOf(form, "chkResetGame"), 1);
+  Shown();
+  EXPECT_EQ(ValueOf(form, "chkResetGame"), 0);
 }
 
 TEST_F(frmOptionsMenuTest, ResetWithoutASavedGameDoesNothing) {

@@ -16,7 +16,7 @@ struct frmSafeModeTest : testing::Test, FormBench {
   }
 };
 
-TEST_F(frmSafeModeTest, TextsAreAsTold) {
+TEST_F(frmSafeModeTest, ItExplainsTheSafeModeAndOffersBoth) {
   Form& form = dialog.Record();
   EXPECT_EQ(form.caption, "Wumbly");
   EXPECT_EQ(TextOf(form, "Label1"),

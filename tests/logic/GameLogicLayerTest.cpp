@@ -373,5 +373,30 @@ TEST_F(GameLogicLayerTest, ReleaseLetsGoOfEverythingAndMayRunAgain) {
   logic->Release();
 }
 
+TEST_F(GameLogicLayerTest, MessagesAreCarriedOutAtOnceAndStartNoTimer) {
+  const std::size_t timers = backend.timers.Running().size();
+  for (const char* message :
+       {"toscreen_tools_addglobalobj_asparetool", "cs_floor1hall1", "cursor_bandaid",
+        "toobj_doctor_runstate_tryagain", "exitondemand", "nosuchverb_at_all"}) {
+    Send(message);
+    EXPECT_EQ(backend.timers.Running().size(), timers) << message;
+  }
+  EXPECT_EQ(Current(), "floor1hall1");
+  EXPECT_TRUE(logic->DialogActive());
+}
+
+TEST_F(GameLogicLayerTest, TheirEndKillsTheirTimerAndSaysNothing) {
+  ObjectRef screen = logic->CurrentScreen();
+  ASSERT_FALSE(backend.timers.Running().empty());
+  ForgetTrace();
+  logic.reset();
+  EXPECT_TRUE(backend.timers.Running().empty());
+  EXPECT_TRUE(screen->ObjectOn()) << "nothing was turned off";
+  EXPECT_TRUE(trace.messages.empty());
+  EXPECT_TRUE(trace.scripts.empty());
+  EXPECT_EQ(File("\\userdata.txt"), "(none)");
+  EXPECT_EQ(File("\\HelpSys.txt"), "(none)");
+}
+
 }  // namespace
 }  // namespace quendle

@@ -54,6 +54,33 @@ TEST_F(ScreenChange, TheCacheOfFiveCountsToolsAndCursors) {
               testing::ElementsAre("tools", "cursors", "dogroom", "emptyroom1", "floor1hall2"));
 }
 
+// A screen that is entered from itself is the one left as well, and is freed as that.
+TEST_F(ScreenChange, AScreenThatIsHeldMakesNoRoomThoughItIsFree) {
+  Send("cs_dogroom");
+  Send("toscreen_floor1hall1_hideobj_x");
+  Send("cs_dogroom");
+  Send("toscreen_floor1hall2_hideobj_x");
+  Send("cs_credits");
+  EXPECT_TRUE(Free("dogroom"));
+  EXPECT_EQ(logic->Keeper()->Cache().Count(), 6u) << "nothing could go";
+  Send("screenprevious");
+  EXPECT_EQ(Current(), "dogroom");
+  EXPECT_NE(Child(logic->CurrentScreen(), "dog"), nullptr);
+}
+
+TEST_F(ScreenChange, TheScreenInViewMakesNoRoomThoughItIsFree) {
+  Send("cs_dogroom");
+  Send("cs_dogroom");
+  Send("screenprevious");
+  ASSERT_EQ(Current(), "dogroom");
+  ASSERT_TRUE(Free("dogroom"));
+  for (const char* name : {"floor1hall1", "floor1hall2", "credits"}) {
+    Send(std::string("toscreen_") + name + "_hideobj_x");
+  }
+  EXPECT_NE(Child(logic->CurrentScreen(), "dog"), nullptr);
+  EXPECT_EQ(logic->Keeper()->Cache().Item("dogroom").m_ptrGameObject, logic->CurrentScreen());
+}
+
 TEST_F(ScreenChange, ANameWithHallOrRoomShowsTheToolsAndKeepsTheCursor) {
   Send("cursor_bandaid");
   for (const char* name : {"floor1hall1", "dogroom"}) {

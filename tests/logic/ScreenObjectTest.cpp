@@ -104,6 +104,18 @@ TEST_F(ScreenObjectTest, AThirdArrowStandsFiftyPixelsFurther) {
   EXPECT_EQ(Child(logic->ToolsScreen(), "third")->xpos(), 670);
 }
 
+TEST_F(ScreenObjectTest, AnAdditionOfNothingArrangesTheBarFromEightChildrenOn) {
+  FillTo(7);
+  Send("toscreen_tools_removeobj_medicalbooktool");
+  Send("toscreen_tools_addglobalobj_nosuch");
+  EXPECT_THAT(Places(), ElementsAre("60", "-", "-", "230", "315", "400")) << "the gap stays";
+  FillTo(9);
+  Send("toscreen_tools_removeobj_asparetool");
+  ASSERT_EQ(Tools().size(), 8U);
+  Send("toscreen_tools_addglobalobj_nosuch");
+  EXPECT_THAT(Places(), ElementsAre("60", "-", "-", "145", "230", "315", "400", "485"));
+}
+
 TEST_F(ScreenObjectTest, TheCounterStopsWhereSixMoreWouldPassTheCount) {
   FillTo(9);
   for (int i = 0; i < 10; ++i) Send("toscreen_tools_inctoolcounter");

@@ -27,9 +27,11 @@ struct ScreenWalkTest : testing::Test, LogicBench {
   };
   struct Log : EventSink {
     void LogEvent(std::string_view message, int level, std::string_view category) override {
+      if (at_line) at_line();
       lines.push_back({std::string(message), level, std::string(category)});
     }
     std::vector<Line> lines;
+    std::function<void()> at_line;
   };
 
   ScreenWalkTest() { Start(); }
@@ -172,6 +174,15 @@ TEST_F(ScreenWalkTest, TheShortWalkOnlyVisitsTheScreens) {
                                   Line{"Exiting Game", 20, "General"}));
   EXPECT_TRUE(Sent("GameLogic: exitgame"));
   EXPECT_EQ(walk->round, 1);
+}
+
+TEST_F(ScreenWalkTest, TheShortWalkKillsItsTimerBeforeItSaysThatItEnds) {
+  Begin();
+  walk->screens.clear();
+  bool ran = true;
+  log.at_line = [&] { ran = TimerRuns(); };
+  EXPECT_THROW(logic->EnumerateScreen2Verification(), ProcessEnds);
+  EXPECT_FALSE(ran);
 }
 
 TEST_F(ScreenWalkTest, AStepDoesNotBeginInsideAStep) {

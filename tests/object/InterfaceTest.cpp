@@ -5,7 +5,7 @@
 namespace quendle {
 namespace {
 
-TEST(GameObjectFields, StandAsToldAtCreation) {
+TEST(GameObjectFields, AreEmptyAtCreationAndTheHeightIsUnknown) {
   ObjectBench bench;
   GameObject object(bench.objects);
   EXPECT_EQ(object.CurrentState(), "");

@@ -290,9 +290,12 @@ TEST(Placements, AreReadByTheFirstMarkThatTheyHold) {
       {" Stable +5 ", -5, 0},
       {"stable+1", -1, 0},
       {"stable+-3", 3, 0},
+      {"stable+2.5", -2, 0},
       {"30+5", 35, 0},
       {"30 + 5", 35, 0},
       {"-30+5", -25, 0},
+      {"1.5+1.5", 3, 0},
+      {"0.4+0.4", 1, 0},
       {"stable/100", -1, 100},
       {"stable\\100", -1, 100},
       {"30/100", 30, 100},
@@ -336,6 +339,7 @@ TEST(Placements, AStepOfZeroEndsTheProcessWithItsOwnMessage) {
     EXPECT_EQ(FatalOf(parse), "f.txt:3: Error: Cannot have the line 'stable+0'") << text;
   }
   EXPECT_EQ(ParsePlacement("0+0", {}).code, 0);
+  EXPECT_EQ(ParsePlacement("stable+0.4", {}).code, 0) << "a small step is a step";
   EXPECT_EQ(ParsePlacement("stable/0", {}).draw_size, 0);
 }
 

@@ -127,6 +127,20 @@ TEST_P(ObjectHit, OutsideThePictureEveryPointHits) {
   EXPECT_TRUE(On(At("door", 0, 0), 5, 5));
 }
 
+TEST_P(ObjectHit, ForARegionThePixelIsLookedUpInTheFramesOwnPartOfThePicture) {
+  const bool surfaces = GetParam() == DrawingPath::kDirectDraw;
+  Door()
+      .Picture(Drawn({"kkkkrrrr", "kkkkrrrr", "kkkkrrrr", "kkkkrrrr"}))
+      .Frame("clear", {0, 0, 4, 4})
+      .Frame("red", {4, 0, 4, 4})
+      .Region("clear", "left", 0, 0, 4, 4)
+      .Region("red", "right", 0, 0, 4, 4)
+      .Animation("still", 9, "loop", {"red", "clear"});
+  TestedObject door = At("door", 10, 10);
+  ASSERT_TRUE(On(door, 12, 12));
+  EXPECT_EQ(Region(door, 12, 12), surfaces ? "left" : "right");
+}
+
 TEST_P(ObjectHit, RegionsCountTheirEdgesAndThoseOfTheFrame) {
   Door().Still(10, 20).Region("all", "whole", 0, 0, 10, 20).Region("all", "head", 2, 2, 4, 4);
   TestedObject door = At("door", 100, 50);

@@ -184,6 +184,18 @@ TEST_F(ObjectLoad, TwoFramesOfOneNameAreFineAndTheLastHoldsForEverySearch) {
   EXPECT_EQ(door->width(), 13);
 }
 
+TEST_F(ObjectLoad, TwoFramesOfOneNameThatBothHaveRegionsAreFatal) {
+  bench_.Object("door")
+      .Frame("a", {0, 0, 11, 12})
+      .Frame("A", {3, 0, 13, 14})
+      .Region("a", "head", 0, 0, 5, 5)
+      .Animation("still", 10, "loop", {"a"});
+  EXPECT_NO_THROW(bench_.Load("door"));
+  bench_.Object("door").Region("A", "arm", 0, 0, 5, 5);
+  EXPECT_EQ(FatalOf([&] { bench_.Load("door"); }),
+            "Info\\door\\frames.txt:10: there are two region list entries named \"A\"");
+}
+
 TEST_F(ObjectLoad, QueriesIgnoreCaseAndAnswerNothingForUnknownNames) {
   bench_.Object("door").State("Open").Still(5, 5).Sound("Click");
   TestedObject door = bench_.Load("door");
@@ -425,6 +437,19 @@ TEST_F(ChildrenOfALoad, TwoChildrenOfOneNameAreFatal) {
   bench_.Object("door");
   bench_.Object("hall", "hall").Child("door").Child("DOOR");
   EXPECT_NE(LoadFault("hall").find("there are two child entries named \"door\""), std::string::npos)
+      << LoadFault("hall");
+}
+
+TEST_F(ChildrenOfALoad, ABlankNameIsOneLikeAnyOther) {
+  for (const char* name : {"door", "gate"}) {
+    const std::string folder = "\\Info\\" + std::string(name) + "\\";
+    bench_.Object(name).Raw(std::string(name) + ".txt", Text({"button", "", "0", "0", "0", "0",
+                                                              folder + "data.txt", "nothing", ""}));
+  }
+  bench_.Object("room", "hall").Child("door");
+  EXPECT_NE(ObjectBench::Child(*bench_.Load("room"), ""), nullptr);
+  bench_.Object("hall", "hall").Child("door").Child("gate");
+  EXPECT_NE(LoadFault("hall").find("there are two child entries named \"\""), std::string::npos)
       << LoadFault("hall");
 }
 

@@ -107,7 +107,15 @@ TEST_F(frmEditDoctorCursorTest, AMissingOrDamagedSuitIsFatal) {
   Click(kOutline);
   files.Put(std::string(kFolder) + "doctorsuit.bmp", "BM nonsense");
   EXPECT_THAT(FatalOf([&] { PressPicture(3); }),
-              testing::HasSubstr("doctorsuit.bmp can't be loaded"));
+              testing::HasSubstr("doctorsuit.bmp: the picture can't be read: "));
+}
+
+TEST_F(frmEditDoctorCursorTest, AFaceThatCanNotBeReadIsFatalAndNamed) {
+  ToPartition();
+  Click(kOutline);
+  faults.Plan("LoadImageA", 0, 0, false);
+  EXPECT_THAT(FatalOf([&] { PressPicture(3); }),
+              testing::HasSubstr("face.bmp: the picture can't be read: "));
 }
 
 TEST_F(frmEditDoctorCursorTest, OnlyTheTwoPicturesAreWrittenAndTheyHoldNothingButPixels) {

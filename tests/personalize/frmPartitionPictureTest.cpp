@@ -319,7 +319,7 @@ TEST_F(frmPartitionPictureTest, APlaceThatCantBeWrittenIsFatal) {
   Click({{1, 1}, {20, 2}, {3, 30}});
   faults.Plan("write", 0, 0, false);
   EXPECT_THAT(FatalOf([&] { PressPicture(3); }),
-              testing::HasSubstr("face.bmp could not be written"));
+              testing::HasSubstr("face.bmp: the picture could not be written"));
 }
 
 TEST_F(frmPartitionPictureTest, NothingIsLeftInTheContextsAfterACut) {

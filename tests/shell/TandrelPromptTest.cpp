@@ -24,7 +24,7 @@ struct TandrelPromptTest : testing::Test, LaunchBench {
   }
 };
 
-TEST_F(TandrelPromptTest, TheFormIsAsTold) {
+TEST_F(TandrelPromptTest, ItOffersFourThingsAndTwoAddresses) {
   Start();
   Form& form = Prompt();
   EXPECT_EQ(form.name, "TandrelPrompt");

@@ -96,6 +96,31 @@ TEST_F(ShooterGame, EnemyFilesAreDrawnFromTheMiddleLines) {
   EXPECT_EQ(bench.CellNames()[1], "cell22") << "2.5 goes to the even number";
 }
 
+TEST_F(ShooterGame, AListOfTwoLinesGivesTheEnemiesThePlayersFileOrTheShots) {
+  bench.files.Put("\\info\\cells.txt", Text({"\\info\\player.txt", "\\info\\shot.txt"}));
+  bench.Queue({0, 0.9, 0, 0.4, 0});
+  bench.TurnOnGame();
+  EXPECT_EQ(bench.CellNames()[0], "cell11");
+  EXPECT_EQ(bench.Cell("cell11").width(), 40) << "as the player";
+  EXPECT_EQ(bench.CellNames()[1], "cell22");
+  EXPECT_EQ(bench.Cell("cell22").width(), 4) << "as the shot";
+}
+
+TEST_F(ShooterGame, AnAcceptedCellLeavesTheOthersTheirParts) {
+  Start();
+  bench.area->Send("selectcell21");
+  bench.area->Send("acceptedcell");
+  Settle();
+  ASSERT_FALSE(Shot(1).Visible());
+  bench.Click(300, 200);
+  EXPECT_TRUE(Shot(1).Visible()) << "the first shot is no enemy now";
+  EXPECT_EQ(Shot(1).YGoal(), 535);
+  EXPECT_FALSE(Shot(2).Visible());
+  bench.Mouse(123, 200, "handmouseover");
+  QuietTick();
+  EXPECT_EQ(bench.Cell("cell111").xpos(), 123) << "the last cell is still the player";
+}
+
 TEST_F(ShooterGame, CellNamesThatCollideAreFatal) {
   // The file 11 of the first enemy gives the player's name.
   Lines cells{"\\info\\player.txt"};

@@ -83,10 +83,12 @@ TEST(SubgameFiles, ATimeLimitHasThirtyTwoBitsAndAPitchSixteen) {
             "Info\\file.txt:4: pixels from tile to tile is out of range for 16 bits");
 }
 
-TEST(SubgameFiles, ACellListNeedsThreeLinesAndNoBlankOne) {
+TEST(SubgameFiles, ACellListNeedsTwoLinesAndNoBlankOne) {
   TextReader two = Reader("\\a\n\\b\n");
-  EXPECT_EQ(FatalOf([&] { ReadCellList(two); }),
-            "Info\\file.txt:2: a cell list needs three lines: the player, an enemy, the shot");
+  EXPECT_EQ(ReadCellList(two), (Lines{"\\a", "\\b"}));
+  TextReader one = Reader("\\a\n");
+  EXPECT_EQ(FatalOf([&] { ReadCellList(one); }),
+            "Info\\file.txt:1: a cell list needs lines for the player, its enemies and the shot");
   TextReader blank = Reader("\\a\n\\b\n\\c\n\n");
   EXPECT_EQ(FatalOf([&] { ReadCellList(blank); }),
             "Info\\file.txt:4: a cell list holds a blank line");

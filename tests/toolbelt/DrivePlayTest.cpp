@@ -1,3 +1,5 @@
+#include "logic/GameLogicLayer.h"
+#include "support/WaveFiles.h"
 #include "toolbelt/DriveBench.h"
 
 namespace quendle {
@@ -86,6 +88,30 @@ TEST(DrivePlay, ATickTellsWhatFiredAndWhatWasDropped) {
   bench.Do("focus on");
   EXPECT_EQ(bench.Do("tick 49")["ticks"], 0);
   EXPECT_EQ(bench.Do("tick 1")["ticks"], 1);
+}
+
+TEST(DrivePlay, MusicThatIsStartedWithoutTheFocusIsNotPaused) {
+  DriveBench bench;
+  bench.files.Put("\\info\\doodle.wma", ToneFile(9));
+  bench.Do("play");
+  EXPECT_EQ(bench.Do("state")["music"]["paused"], false);
+  bench.Do("focus off");
+  EXPECT_EQ(bench.Do("state")["music"]["paused"], true);
+  bench.Do("send playmusic");
+  const Json state = bench.Do("state");
+  EXPECT_EQ(state["gameActive"], false);
+  EXPECT_EQ(state["music"]["playing"], true);
+  EXPECT_EQ(state["music"]["paused"], false);
+}
+
+TEST(DrivePlay, ANameIsThatOfTheScreenThatPlayGoesOnWith) {
+  GameBench bench;
+  bench.Do("send cs_hall");
+  const GameLogicLayer& logic = bench.Session().Logic();
+  logic.Keeper()->ReleaseScreen(logic.PreviousScreen());
+  bench.Do("send toscreen_introscreen_hideobj_nosuch");
+  EXPECT_EQ(bench.Do("tree previous")["object"]["children"].size(), 0u) << "released";
+  EXPECT_NE(bench.Do("tree introscreen")["object"]["children"].size(), 0u);
 }
 
 TEST(DrivePlay, EscapeOpensTheExitDialog) {

@@ -39,7 +39,6 @@ class RasterSurface : public Surface {
   void UseDesktopCoordinates() { desktop_coordinates_ = true; }
   // Takes the surface's memory away, as another program does that takes the display.
   void Lose() { lost_ = true; }
-  bool IsLost() const { return lost_; }
   // The pixels, with all copies done.
   const RasterBitmap& Bitmap() {
     DrawWaiting();

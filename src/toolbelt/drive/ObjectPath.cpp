@@ -18,17 +18,17 @@ namespace {
 
 ObjectRef CachedScreen(const GameLogicLayer& logic, const std::string& name) {
   std::vector<std::string> known = {"current", "previous", "tools", "cursors", "global"};
-  // Subgames and tutorials in view never enter the cache.
-  for (const ObjectRef& screen : {logic.CurrentScreen(), logic.PreviousScreen()}) {
+  std::vector<ObjectRef> live = {logic.CurrentScreen()};
+  if (const ScreenKeeper* keeper = logic.Keeper()) {
+    for (const auto& [key, entry] : keeper->Cache()) live.push_back(entry.m_ptrGameObject);
+  }
+  // Subgames and tutorials never enter the cache. A previous one may share its name with a screen
+  // that does, which is the one that play goes on with.
+  live.push_back(logic.PreviousScreen());
+  for (const ObjectRef& screen : live) {
     if (screen == nullptr) continue;
     if (EqualsNoCase(screen->ObjectName(), name)) return screen;
     known.push_back(screen->ObjectName());
-  }
-  if (const ScreenKeeper* keeper = logic.Keeper()) {
-    for (const auto& [key, entry] : keeper->Cache()) {
-      if (EqualsNoCase(entry.m_ptrGameObject->ObjectName(), name)) return entry.m_ptrGameObject;
-      known.push_back(entry.m_ptrGameObject->ObjectName());
-    }
   }
   RefuseName("live screen", name, known);
 }

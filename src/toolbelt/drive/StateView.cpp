@@ -29,12 +29,12 @@ Json DescribeCache(const ScreenKeeper& keeper) {
   return cache;
 }
 
-Json DescribeMusic(const GameLogicLayer& logic, bool game_active) {
+Json DescribeMusic(const GameLogicLayer& logic) {
   const SoundState* music = logic.Music();
   DShowObj* player = music == nullptr ? nullptr : music->Player();
   const bool playing = player != nullptr && music->FileFound() && player->StillPlaying(0);
   return {{"playing", playing},
-          {"paused", playing && !game_active},
+          {"paused", playing && player->Paused()},
           {"position", player == nullptr ? 0.0 : player->GetPosition()},
           {"volume", player == nullptr ? 0 : player->GetVolume()},
           {"rate", player == nullptr ? 0.0 : player->GetRate()}};
@@ -82,7 +82,7 @@ void AddScreens(Json& state, const GameLogicLayer& logic, const ObjectWorld& wor
     state["screens"] = TextListJson(keeper->Table().Keys());
   }
   state["timedObjects"] = DescribeTimedObjects(world);
-  state["music"] = DescribeMusic(logic, world.GameActive);
+  state["music"] = DescribeMusic(logic);
 }
 
 }  // namespace

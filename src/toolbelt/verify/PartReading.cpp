@@ -112,6 +112,7 @@ void TreeReader::ReadFrames(ModelObject& object, const NamedFile& file) {
     object.animations_known = false;
   }
   std::set<std::string> names;
+  std::set<std::string> with_regions;
   for (FrameRecord& record : records) {
     ModelFrame frame{record.frame, record.place, {}, ""};
     const NamedFile regions =
@@ -119,6 +120,10 @@ void TreeReader::ReadFrames(ModelObject& object, const NamedFile& file) {
     if (!IsNothing(regions.resolved)) {
       frame.region_file = gate_.DisplayName(regions.resolved);
       gate_.Read(regions, [&](TextStream& stream) { frame.regions = LoadRegions(stream); });
+      if (!with_regions.insert(FoldCase(record.frame.FrameName)).second) {
+        findings_.Add(Check::kTwoOfOneName, file.object, record.place,
+                      "there are two frames with regions named \"" + record.frame.FrameName + "\"");
+      }
     }
     if (!names.insert(FoldCase(record.frame.FrameName)).second) {
       findings_.Add(
