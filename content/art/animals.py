@@ -1,6 +1,9 @@
 """The patients. Big heads, big eyes; hurt is a pout and a tear, cured is a smile and a jump."""
 
-from shapes import *
+from shapes import (
+    CORAL, CREAM, DARKWOOD, FUR, OUTLINE, PEACH, PINK, YELLOW, box, cheek, ellipse, eye, flat, heart_path, light,
+    limb, move, shade, shut_eye, solid, sparkle, squeezed_eye, star, stroke, tear,
+)
 
 DOG = FUR
 EAR = "#a9683c"

@@ -5,11 +5,14 @@ has to be hit fills its cell.
 """
 
 from animals import dog
-from cat import cat, flea
-from furniture import *
-from items import *
+from cat import cat
+from furniture import carrot, cloud, flower, shadow, tree, wall
+from items import again, antiseptic, arrow, cog_button, dog_face, grapes, hand, no_cross, question, tick
 from rabbit import rabbit
-from shapes import *
+from shapes import (
+    CORAL, CREAM, DARKWOOD, GREEN, ORANGE, OUTLINE, PINK, SKY, TEAL, WHITE, WOOD, YELLOW, box, ellipse, flat,
+    heart, heart_path, light, limb, move, n, shade, shut_eye, solid, sparkle, star, star_path, stroke,
+)
 from turtle import turtle, turtle_face
 
 VIOLET = "#b48ad6"

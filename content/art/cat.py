@@ -1,6 +1,9 @@
 """The cat: first with fleas, then with bites that itch, then dabbed with lotion, at last with a collar of its own."""
 
-from shapes import *
+from shapes import (
+    CORAL, CREAM, ORANGE, OUTLINE, PINK, TEAL, WHITE, YELLOW, cheek, ellipse, eye, flat, light, limb, move, poly,
+    shut_eye, solid, sparkle, squeezed_eye, star, stroke, tear,
+)
 
 CAT = ORANGE
 STRIPE = "#c9702c"

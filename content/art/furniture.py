@@ -1,7 +1,11 @@
 """Rooms and what stands in them. The tool bar covers every room from y 490 down."""
 
-from items import *
-from shapes import *
+import math
+
+from shapes import (
+    CORAL, CREAM, DARKWOOD, GREEN, LAVENDER, ORANGE, OUTLINE, PINK, SKY, TEAL, WHITE, WOOD, YELLOW, box, ellipse,
+    flat, heart_path, light, limb, move, paw_print, poly, shade, solid, star_path, stroke,
+)
 
 FLOOR = 458
 

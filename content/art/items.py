@@ -1,7 +1,10 @@
 """Small things: tools, pictograms, buttons, bubbles, letters."""
 
 from animals import bandage_strip
-from shapes import *
+from shapes import (
+    CORAL, CREAM, DARKWOOD, FUR, GREEN, MINT, OUTLINE, PINK, SKIN, SKY, TEAL, WHITE, WOOD, YELLOW, box,
+    cross_path, ellipse, flat, heart_path, light, move, n, paw_print, poly, shade, solid, stroke,
+)
 
 
 # --- tools, each about the point (cx, cy), some 60 wide -------------------------------------------

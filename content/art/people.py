@@ -1,6 +1,9 @@
 """The doctor: a friendly face, a white coat, a stethoscope."""
 
-from shapes import *
+from shapes import (
+    CORAL, DARKWOOD, OUTLINE, PINK, SKIN, TEAL, YELLOW, box, cheek, ellipse, eye, flat, light, limb, n, paw_print,
+    shade, shut_eye, solid, stroke,
+)
 
 HAIR = "#9c5a37"
 COAT = "#fffaf0"

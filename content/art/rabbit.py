@@ -1,6 +1,9 @@
 """The rabbit: sneezing with a red nose; each step of the cure lifts its ears a little more."""
 
-from shapes import *
+from shapes import (
+    CORAL, CREAM, GREEN, LAVENDER, ORANGE, OUTLINE, PINK, SKY, TEAL, WHITE, box, cheek, ellipse, eye, flat, limb,
+    move, shade, shut_eye, solid, squeezed_eye, star, stroke, tear,
+)
 
 RABBIT = "#e9d6c3"
 INNER = PINK

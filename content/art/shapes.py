@@ -1,7 +1,7 @@
 """The shape library: the palette, the one outline, and the few strokes that every picture is made of.
 
 Every function returns a piece of SVG text. Lengths are pixels, angles degrees, y grows downwards.
-A piece never holds its own size: `Sheet` in sheets.py gives each cell its frame.
+A piece never holds its own size: `Sheet` in sheet.py gives each cell its frame.
 """
 
 import math

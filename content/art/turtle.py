@@ -1,7 +1,12 @@
 """The turtle: muddy all over, then thirsty, then with a scratch that the mud had hidden; at last it dances."""
 
+import math
+
 from animals import bandage_strip
-from shapes import *
+from shapes import (
+    CORAL, GREEN, OUTLINE, PINK, TEAL, YELLOW, cheek, ellipse, eye, flat, light, limb, move, shade, shut_eye,
+    solid, sparkle, squeezed_eye, star, stroke, tear,
+)
 
 TURTLE = GREEN
 SHELL = TEAL

@@ -2,7 +2,7 @@
 // mixed is measured.
 #include <gtest/gtest.h>
 
-#include "backends/desktop/OpenAlFilterGraphs.h"
+#include "backends/sound/OpenAlFilterGraphs.h"
 #include "base/ContentFiles.h"
 #include "media/DShowObj.h"
 #include "media/MediaPlatform.h"

@@ -7,8 +7,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "backends/desktop/OpenAlDevice.h"
 #include "backends/headless/VirtualClock.h"
+#include "backends/sound/OpenAlDevice.h"
 
 namespace quendle {
 

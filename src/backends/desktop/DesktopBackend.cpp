@@ -36,7 +36,8 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
       direct_draw_(gdi_, screen_, faults_),
       display_modes_(faults_),
       filter_graphs_(files_, clock_),
-      fonts_(FontFinder::SystemFolders()),
+      font_files_(FontFinder::SystemFolders()),
+      fonts_(font_files_),
       text_(fonts_),
       painter_(text_),
       forms_(loop_, painter_),
@@ -65,7 +66,7 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
 bool DesktopBackend::TellWhatIsMissing(const std::string& product) {
   if (!text_.HasFont()) {
     std::string text = "No font was found. Please install Arial or Liberation Sans.\n";
-    for (const auto& folder : fonts_.Folders()) text += "\n" + folder.string();
+    for (const auto& folder : font_files_.Folders()) text += "\n" + folder.string();
     ShowSystemBox(product, text, {"OK"});
     return false;
   }

@@ -5,9 +5,6 @@
 #include <string>
 
 #include "backends/codecs/PictureDecoderLoader.h"
-#include "backends/desktop/AuthorLayer.h"
-#include "backends/desktop/CaptionLayer.h"
-#include "backends/desktop/CaptionSetting.h"
 #include "backends/desktop/DebugWindow.h"
 #include "backends/desktop/DesktopBoxes.h"
 #include "backends/desktop/DesktopClock.h"
@@ -16,19 +13,23 @@
 #include "backends/desktop/DesktopSystem.h"
 #include "backends/desktop/DesktopWindow.h"
 #include "backends/desktop/FontFinder.h"
-#include "backends/desktop/FormPainter.h"
 #include "backends/desktop/GameFolders.h"
 #include "backends/desktop/GameOptions.h"
-#include "backends/desktop/OpenAlFilterGraphs.h"
+#include "backends/desktop/SdlFonts.h"
 #include "backends/desktop/SdlLibrary.h"
 #include "backends/desktop/StepClock.h"
-#include "backends/desktop/TextPainter.h"
 #include "backends/files/DiskFileSystem.h"
+#include "backends/forms/AuthorLayer.h"
+#include "backends/forms/CaptionLayer.h"
+#include "backends/forms/CaptionSetting.h"
+#include "backends/forms/FormPainter.h"
+#include "backends/forms/TextPainter.h"
 #include "backends/raster/BitmapPictureSaver.h"
 #include "backends/raster/RasterDirectDraw.h"
 #include "backends/raster/RasterDisplayModes.h"
 #include "backends/raster/RasterGdi.h"
 #include "backends/raster/RasterScreen.h"
+#include "backends/sound/OpenAlFilterGraphs.h"
 #include "base/SeededRandom.h"
 #include "platform/Faults.h"
 #include "platform/Ports.h"
@@ -88,7 +89,8 @@ class DesktopBackend {
   RasterDirectDraw direct_draw_;
   RasterDisplayModes display_modes_;
   OpenAlFilterGraphs filter_graphs_;
-  FontFinder fonts_;
+  FontFinder font_files_;
+  SdlFonts fonts_;
   TextPainter text_;
   FormPainter painter_;
   DesktopFormHost forms_;

@@ -7,10 +7,10 @@
 #include <memory>
 #include <optional>
 
-#include "backends/desktop/FileListing.h"
 #include "backends/desktop/FormWindow.h"
 #include "backends/desktop/NativeChooser.h"
-#include "backends/desktop/PictureChooser.h"
+#include "backends/forms/FileListing.h"
+#include "backends/forms/PictureChooser.h"
 #include "base/Text.h"
 
 namespace quendle {

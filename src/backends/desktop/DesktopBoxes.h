@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "backends/desktop/BoxForm.h"
 #include "backends/desktop/DesktopEventLoop.h"
 #include "backends/desktop/DesktopWindow.h"
+#include "backends/forms/BoxForm.h"
 #include "platform/Boxes.h"
 #include "platform/PictureLoader.h"
 

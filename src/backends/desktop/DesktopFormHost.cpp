@@ -2,7 +2,7 @@
 
 #include <SDL.h>
 
-#include <algorithm>
+#include <string>
 
 #include "base/FatalError.h"
 
@@ -14,13 +14,11 @@ DesktopFormHost::DesktopFormHost(DesktopEventLoop& loop, FormPainter& painter)
   loop.Add(window_);
 }
 
-void DesktopFormHost::Add(Form& form, FormEvents& events) {
-  forms_.push_back(std::make_unique<FormInput>(form, events));
-}
+void DesktopFormHost::Add(Form& form, FormEvents& events) { forms_.Add(form, events); }
 
 void DesktopFormHost::Remove(Form& form) {
   if (window_->Shown() != nullptr && &window_->Shown()->Record() == &form) window_->Show(nullptr);
-  std::erase_if(forms_, [&](const auto& input) { return &input->Record() == &form; });
+  forms_.Remove(form);
 }
 
 void DesktopFormHost::Update(Form& form) {
@@ -29,15 +27,9 @@ void DesktopFormHost::Update(Form& form) {
 }
 
 void DesktopFormHost::ShowFormInView() {
-  if (!window_->Show(FormInView())) {
+  if (!window_->Show(forms_.InView())) {
     throw FatalError(std::string("no window can be opened: ") + SDL_GetError());
   }
-}
-
-FormInput* DesktopFormHost::FormInView() {
-  auto found = std::ranges::find_if(
-      forms_, [](const auto& input) { return input->Record().visible && input->Record().enabled; });
-  return found == forms_.end() ? nullptr : found->get();
 }
 
 }  // namespace quendle

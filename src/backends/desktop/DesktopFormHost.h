@@ -1,10 +1,10 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include "backends/desktop/DesktopEventLoop.h"
 #include "backends/desktop/FormWindow.h"
+#include "backends/forms/FormList.h"
 #include "platform/FormHost.h"
 
 namespace quendle {
@@ -22,7 +22,6 @@ class DesktopFormHost : public FormHost {
 
   // Follows the records now, and not at the end of the event.
   void ShowFormInView();
-  bool ShowsForm() const { return window_->Shown() != nullptr; }
   void Flash() { window_->Flash(); }
 
  private:
@@ -41,11 +40,9 @@ class DesktopFormHost : public FormHost {
     DesktopFormHost& host_;
   };
 
-  FormInput* FormInView();
-
   std::shared_ptr<FormWindow> window_;
   std::shared_ptr<Switch> switch_;
-  std::vector<std::unique_ptr<FormInput>> forms_;
+  FormList forms_;
 };
 
 }  // namespace quendle

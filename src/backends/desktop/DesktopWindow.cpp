@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "backends/desktop/WindowPixels.h"
 #include "backends/raster/RasterScreen.h"
 #include "base/FatalError.h"
 #include "base/Text.h"
@@ -191,7 +192,9 @@ bool DesktopWindow::UpdateLayers() {
 bool DesktopWindow::SendToLayers(const SDL_Event& event) {
   auto takes = [&event](FrameLayer* layer) {
     if (event.type == SDL_MOUSEWHEEL) return layer->TakeWheel(event.wheel.y);
-    return event.type == SDL_KEYDOWN && event.key.repeat == 0 && layer->TakeKey(event.key.keysym);
+    if (event.type != SDL_KEYDOWN || event.key.repeat != 0) return false;
+    const std::optional<FunctionKey> key = FunctionKeyOf(event.key.keysym);
+    return key && layer->TakeKey(*key);
   };
   if (!std::ranges::any_of(layers_, takes)) return false;
   stale_ = true;
@@ -307,24 +310,15 @@ Size DesktopWindow::WindowSize() const {
   return size;
 }
 
-// A box grows with the frame and never leaves the window.
 double DesktopWindow::OverlayScale() const {
-  Size output = renderer_->OutputSize();
-  Rect area = FrameArea(output, options_.scale);
-  const Size& form = overlay_->Record().size;
-  double fitting = std::min(static_cast<double>(output.width) / form.width,
-                            static_cast<double>(output.height) / form.height);
-  return std::min(static_cast<double>(area.Width()) / kFrameWidth, fitting);
+  const Size output = renderer_->OutputSize();
+  return ScaleOverFrame(overlay_->Record().size, output, FrameArea(output, options_.scale));
 }
 
 FormPlace DesktopWindow::OverlayPlace() const {
-  Size output = renderer_->OutputSize();
-  Size window = WindowSize();
-  double unit = static_cast<double>(output.width) / std::max(window.width, 1);
-  double scale = OverlayScale();
-  const Size& form = overlay_->Record().size;
-  return {(output.width - form.width * scale) / 2 / unit,
-          (output.height - form.height * scale) / 2 / unit, scale / unit};
+  const Size output = renderer_->OutputSize();
+  return PlaceOverFrame(overlay_->Record().size, output, FrameArea(output, options_.scale),
+                        WindowSize());
 }
 
 }  // namespace quendle

@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "backends/desktop/DesktopEventLoop.h"
-#include "backends/desktop/FormInput.h"
-#include "backends/desktop/FormPainter.h"
 #include "backends/desktop/FrameRenderer.h"
-#include "backends/desktop/FrameScaling.h"
 #include "backends/desktop/SdlInput.h"
+#include "backends/forms/FormInput.h"
+#include "backends/forms/FormPainter.h"
+#include "backends/forms/FrameScaling.h"
 #include "platform/GameWindow.h"
 
 struct SDL_Window;

@@ -5,23 +5,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "backends/desktop/FormPointer.h"
+#include "backends/desktop/WindowPixels.h"
+#include "backends/forms/FormPointer.h"
 #include "base/Text.h"
 
 namespace quendle {
 namespace {
-
-// A display must be this much larger than one step before forms grow by another.
-constexpr int kStepWidth = 900;
-constexpr int kStepHeight = 680;
-
-// Whole factors, so that lines stay sharp; less than 1 only for a form larger than the display.
-double ScaleFor(Size form, const SDL_Rect& display) {
-  double whole = std::max(1, std::min(display.w / kStepWidth, display.h / kStepHeight));
-  double fitting = std::min(static_cast<double>(display.w) / std::max(form.width, 1),
-                            static_cast<double>(display.h) / std::max(form.height, 1));
-  return std::min(whole, fitting);
-}
 
 // Asked by the window system, perhaps in the middle of an event of its own: reads the record only.
 SDL_HitTestResult HitTest(SDL_Window* window, const SDL_Point* at, void* data) {
@@ -113,7 +102,7 @@ bool FormWindow::Open() {
   int number = window_ == nullptr ? 0 : std::max(SDL_GetWindowDisplayIndex(window_.get()), 0);
   SDL_Rect display{0, 0, 1024, 768};
   SDL_GetDisplayUsableBounds(number, &display);
-  scale_ = ScaleFor(form.size, display);
+  scale_ = ScaleOnDisplay(form.size, {display.w, display.h});
   Size size{static_cast<int>(std::lround(form.size.width * scale_)),
             static_cast<int>(std::lround(form.size.height * scale_))};
   if (window_ != nullptr) {
@@ -149,17 +138,7 @@ void FormWindow::Fit(Size size, Point corner) {
 
 void FormWindow::Paint() {
   dirty_ = false;
-  Canvas canvas = painter_.Paint(input_->Record(), scale_, input_->Look());
-  SDL_Surface* seen = SDL_GetWindowSurface(window_.get());
-  if (seen == nullptr) return;
-  std::vector<std::uint32_t> pixels = canvas.Pixels();
-  Size size = canvas.PixelSize();
-  SDL_Surface* picture = SDL_CreateRGBSurfaceWithFormatFrom(
-      pixels.data(), size.width, size.height, 32, size.width * 4, SDL_PIXELFORMAT_RGB888);
-  if (picture == nullptr) return;
-  SDL_BlitSurface(picture, nullptr, seen, nullptr);
-  SDL_FreeSurface(picture);
-  SDL_UpdateWindowSurface(window_.get());
+  ShowInWindow(window_.get(), painter_.Paint(input_->Record(), scale_, input_->Look()));
 }
 
 FormPlace FormWindow::Place() const { return {0, 0, scale_}; }

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <memory>
 
-#include "backends/desktop/FormInput.h"
-#include "backends/desktop/FormPainter.h"
 #include "backends/desktop/SdlEventTarget.h"
 #include "backends/desktop/SdlInput.h"
+#include "backends/forms/FormInput.h"
+#include "backends/forms/FormPainter.h"
 
 struct SDL_Window;
 

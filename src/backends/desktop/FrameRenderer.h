@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "backends/desktop/Canvas.h"
-#include "backends/desktop/FrameLayer.h"
-#include "backends/desktop/FrameScaling.h"
+#include "backends/forms/Canvas.h"
+#include "backends/forms/FrameLayer.h"
+#include "backends/forms/FrameScaling.h"
 
 struct SDL_Renderer;
 struct SDL_Texture;

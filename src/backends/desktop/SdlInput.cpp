@@ -2,11 +2,6 @@
 
 #include <SDL.h>
 
-#include <cmath>
-
-#include "backends/desktop/IconArt.h"
-#include "backends/desktop/Palette.h"
-
 namespace quendle {
 
 std::optional<FormKey> FormKeyOf(const SDL_Keysym& key) {
@@ -28,6 +23,17 @@ std::optional<FormKey> FormKeyOf(const SDL_Keysym& key) {
       return FormKey::kEnter;
     case SDLK_ESCAPE:
       return FormKey::kEscape;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<FunctionKey> FunctionKeyOf(const SDL_Keysym& key) {
+  switch (key.sym) {
+    case SDLK_F2:
+      return FunctionKey::kF2;
+    case SDLK_F12:
+      return FunctionKey::kF12;
     default:
       return std::nullopt;
   }
@@ -58,11 +64,6 @@ int ShiftBits() {
   SDL_Keymod mod = SDL_GetModState();
   return ((mod & KMOD_SHIFT) != 0 ? 1 : 0) | ((mod & KMOD_CTRL) != 0 ? 2 : 0) |
          ((mod & KMOD_ALT) != 0 ? 4 : 0);
-}
-
-Point FormPlace::ToForm(int x, int y) const {
-  return {static_cast<int>(std::floor((x + 0.5 - left) / scale)),
-          static_cast<int>(std::floor((y + 0.5 - top) / scale))};
 }
 
 void SendToForm(const SDL_Event& event, FormInput& input, const FormPlace& place) {
@@ -103,19 +104,6 @@ void SendToForm(const SDL_Event& event, FormInput& input, const FormPlace& place
     default:
       break;
   }
-}
-
-void SetIcon(SDL_Window* window) {
-  constexpr int kSide = 64;
-  Canvas canvas({kSide, kSide}, 1);
-  canvas.Clear(palette::kPeach);
-  DrawPuppy(canvas, {kSide / 2.0, kSide / 2.0}, kSide * 0.46, true);
-  std::vector<std::uint32_t> pixels = canvas.Pixels();
-  SDL_Surface* icon = SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), kSide, kSide, 32, kSide * 4,
-                                                         SDL_PIXELFORMAT_ARGB8888);
-  if (icon == nullptr) return;
-  SDL_SetWindowIcon(window, icon);
-  SDL_FreeSurface(icon);
 }
 
 }  // namespace quendle

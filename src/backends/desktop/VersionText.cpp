@@ -8,8 +8,8 @@
 #include "backends/codecs/SoundDecoder.h"
 #include "backends/desktop/FontFinder.h"
 #include "backends/desktop/FrameRenderer.h"
-#include "backends/desktop/OpenAlDevice.h"
 #include "backends/desktop/SdlLibrary.h"
+#include "backends/sound/OpenAlDevice.h"
 #include "base/FatalError.h"
 
 namespace quendle {

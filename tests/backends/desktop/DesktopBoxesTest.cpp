@@ -5,6 +5,8 @@
 
 #include "backends/desktop/DesktopClock.h"
 #include "backends/desktop/DesktopFormHost.h"
+#include "backends/desktop/FontFinder.h"
+#include "backends/desktop/SdlFonts.h"
 #include "backends/desktop/SdlLibrary.h"
 #include "backends/raster/RasterScreen.h"
 
@@ -87,7 +89,7 @@ class DesktopBoxesTest : public ::testing::Test {
   SdlLibrary library_;
   DesktopClock clock_;
   DesktopEventLoop loop_{clock_};
-  FontFinder fonts_{FontFinder::SystemFolders()};
+  SdlFonts fonts_{FontFinder(FontFinder::SystemFolders())};
   TextPainter text_{fonts_};
   FormPainter painter_{text_};
   RasterScreen screen_;

@@ -6,7 +6,7 @@
 
 #include <cstdlib>
 
-#include "backends/desktop/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace quendle {
 namespace {

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "backends/desktop/DesktopClock.h"
+#include "backends/desktop/FontFinder.h"
+#include "backends/desktop/SdlFonts.h"
 #include "backends/desktop/SdlLibrary.h"
 #include "backends/raster/RasterScreen.h"
 
@@ -88,7 +90,7 @@ class DesktopWindowTest : public ::testing::Test {
   SdlLibrary library_;
   DesktopClock clock_;
   DesktopEventLoop loop_{clock_};
-  FontFinder fonts_{{}};
+  SdlFonts fonts_{FontFinder({})};
   TextPainter text_{fonts_};
   FormPainter painter_{text_};
   RasterScreen screen_;
@@ -214,7 +216,7 @@ TEST_F(DesktopWindowTest, ABoxOverTheFrameTakesInputAndShowsThePointer) {
 
 class Layer : public FrameLayer {
  public:
-  bool TakeKey(const SDL_Keysym& key) override { return key.sym == SDLK_F2; }
+  bool TakeKey(FunctionKey key) override { return key == FunctionKey::kF2; }
   bool TakeWheel(int steps) override { return steps > 0; }
   const LayerContents* Update(const LayerView& view, bool anew) override {
     views.push_back(view);

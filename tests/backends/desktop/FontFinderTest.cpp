@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "backends/desktop/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace quendle {
 namespace {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "backends/desktop/GameFolders.h"
-#include "backends/desktop/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace quendle {
 namespace {
