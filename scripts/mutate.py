@@ -272,6 +272,7 @@ def main(words):
 
 
 if __name__ == "__main__":
+    signal.signal(signal.SIGTERM, signal.default_int_handler)  # a stop from outside cleans up too
     try:
         sys.exit(main(sys.argv[1:]))
     except KeyboardInterrupt:
