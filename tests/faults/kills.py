@@ -44,7 +44,7 @@ def check_whole(player):
         file = player / name
         if not file.exists():
             continue
-        lines = file.read_text(errors="replace").split("\r\n")
+        lines = file.read_bytes().decode("cp1252", "replace").split("\r\n")
         depth = 0
         for line in lines:
             depth += (line == "begin") - (line == "end")
@@ -72,17 +72,24 @@ class Game:
         return answer
 
     def kill_after(self, line, delay):
-        """Sends the line and kills the process after the delay. Whether it was answered first."""
+        """Sends the line and kills the process after the delay. The seconds that an answer took
+        which came before, or none."""
         timer = threading.Timer(delay, self.process.kill)
         timer.start()
+        begun = time.monotonic()
         try:
             self.send(line)
             answer = self.process.stdout.readline()
         except BrokenPipeError:
             answer = ""
+        took = time.monotonic() - begun
         timer.join()
         self.end()
-        return answer.endswith("\n") and json.loads(answer)["ok"]
+        if not answer.endswith("\n"):
+            return None
+        if not json.loads(answer)["ok"]:
+            raise Lost(f"{line}: {answer}")
+        return took
 
     def end(self):
         self.process.kill()
@@ -128,11 +135,9 @@ class Rounds:
 
     def kill(self, game, moment, line):
         """Kills the game at that moment of a round, unless it is quicker."""
-        longest = 1.2 * self.took.get(moment, 0.05) + 0.002
-        begun = time.monotonic()
-        answered = game.kill_after(line, self.chance.uniform(0, longest))
-        if answered:
-            self.took[moment] = time.monotonic() - begun
+        took = game.kill_after(line, self.chance.uniform(0, 1.2 * self.took[moment]))
+        if took is not None:
+            self.took[moment] = took
             if moment != "start":
                 self.kept = self.made
         else:
