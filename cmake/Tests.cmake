@@ -80,6 +80,17 @@ function(quendle_scenarios)
   endif()
 endfunction()
 
+# Real processes that are killed: a sample, `./check faults` does more.
+function(quendle_faults)
+  if(TARGET quendle)
+    add_test(NAME faults.kills
+             COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/faults/kills.py
+                     $<TARGET_FILE:quendle> 20)
+    set_tests_properties(faults.kills PROPERTIES
+      TIMEOUT 300 LABELS faults ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  endif()
+endfunction()
+
 # Every session tests/recordings/NAME.txt becomes the test `recording.NAME`.
 function(quendle_recordings)
   set(runner ${PROJECT_SOURCE_DIR}/tests/recordings/run.py)

@@ -123,6 +123,11 @@ def step_docs():
                     BIN / "quendle", BIN)), 1
 
 
+def step_faults():
+    """Real games, killed at many moments: the next start has all that was kept"""
+    return run("faults", sys.executable, ROOT / "tests/faults/kills.py", BIN / "quendle", 400), 1
+
+
 def step_sanitizers():
     """Unit tests and scenarios under the address and undefined-behaviour sanitizers"""
     if not (run("asan-build", "cmake", "--preset", "asan")
@@ -132,9 +137,9 @@ def step_sanitizers():
 
 
 STEPS = {function.__name__.removeprefix("step_"): function for function in (
-    step_format, step_rooms, step_includes, step_packages, step_build, step_tidy, step_tests, step_content,
-    step_docs, step_sanitizers)}
-NEED_BUILD = {"tidy", "tests", "content", "docs", "sanitizers"}
+    step_format, step_rooms, step_includes, step_packages, step_build, step_tidy, step_tests,
+    step_content, step_docs, step_faults, step_sanitizers)}
+NEED_BUILD = {"tidy", "tests", "content", "docs", "faults", "sanitizers"}
 
 
 def knows_command(word):

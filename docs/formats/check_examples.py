@@ -170,8 +170,6 @@ CASES = [
     ("saved-game.md", "\\userdata.txt",
      (LINE, 15, "begin", "duck", "swim", "0", "0", "True", "end", "end"),
      'two saved objects named "duck" in "pondroom"'),
-    ("helpsys.md", "\\HelpSys.txt", (LINE, 1, "On"), '"On" is neither "True" nor "False"'),
-    ("helpsys.md", "\\HelpSys.txt", (CUT, 4), 'the file ends where "True" or "False" should stand'),
     ("../messages.md", POND + "duck.txt", (ADD,), '"toobj" needs word 2 and has 1', ENTER + ["send toobj"]),
     ("../messages.md", POND + "duck.txt", (ADD,),
      '"subgamedone" finds no previous screen to go back to', ["play", "send subgamedone"]),

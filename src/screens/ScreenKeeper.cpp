@@ -165,9 +165,7 @@ void ScreenKeeper::RestoreMemento(const ObjectRef& screen) {
   for (const auto& entry : m_colMementos) {
     if (!EqualsNoCase(entry.value->ObjectName(), screen->ObjectName())) continue;
     GameObjectMemento::Ref memento = entry.value;
-    restoring_ = true;
     screen->LoadMemento(*memento);
-    restoring_ = false;
     return;
   }
 }
