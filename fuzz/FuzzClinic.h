@@ -20,13 +20,13 @@
 #include "logic/ScreenObject.h"
 #include "logic/SmallClinic.h"
 #include "logic/ToolObject.h"
-#include "media/FakeGraphs.h"
 #include "media/Graphics.h"
 #include "media/MediaWorld.h"
 #include "object/ObjectFactory.h"
 #include "object/ObjectWorld.h"
 #include "script/ScriptWorld.h"
 #include "subgames/SubgameClasses.h"
+#include "support/FakeSounds.h"
 
 namespace quendle {
 
@@ -111,7 +111,7 @@ struct FuzzPlatform {
   Faults faults;
   MemoryFileSystem files{kFuzzBase};
   HeadlessBackend backend{files, faults};
-  FakeGraphs graphs;
+  FakeSounds graphs;
   SmallFrames gdi{files, backend.screen, faults};
   Ports ports{files,
               backend.clock,
@@ -133,7 +133,7 @@ struct FuzzPlatform {
     static const MemoryFileSystem kFirst = TinyClinic();
     files = kFirst;
     backend.random = ScriptedRandom(1);
-    graphs = FakeGraphs();
+    graphs = FakeSounds();
   }
 };
 

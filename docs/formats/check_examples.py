@@ -119,7 +119,7 @@ CASES = [
      "the picture can't be read: it is not a bitmap file"),
     ("scripts.md", POND + "duckscripts.txt", (LINE, 4, "globalscript_toolwom"),
      'there is no global script "toolwom"; did you mean "toolwon"?'),
-    ("scripts.md", POND + "duckscripts.txt", 
+    ("scripts.md", POND + "duckscripts.txt",
      (LINE, 1, "duck", "<CurrentDirectory>\\duckscript.txt", "unused", "duck"),
      'there are two script entries named "duck"'),
     ("scripts.md", POND + "duckscripts.txt", (CUT, 5),
