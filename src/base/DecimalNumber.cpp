@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <iterator>
 #include <vector>
 
@@ -81,11 +82,12 @@ class BigNatural {
     if (carry != 0) words_.push_back(static_cast<std::uint32_t>(carry));
   }
   void MultiplyByPowerOfTen(long power) {
+    for (; power >= 9; power -= 9) MultiplyAdd(1'000'000'000, 0);
     for (; power > 0; --power) MultiplyAdd(10, 0);
   }
   void Double(long times) {
-    for (; times >= 31; times -= 31) MultiplyAdd(std::uint32_t{1} << 31, 0);
-    MultiplyAdd(std::uint32_t{1} << times, 0);
+    words_.insert(words_.begin(), static_cast<std::size_t>(times / 32), 0);
+    MultiplyAdd(std::uint32_t{1} << times % 32, 0);
   }
   BigNatural Times(std::uint64_t factor) const {
     BigNatural low = *this;
@@ -157,10 +159,25 @@ class ExactFraction {
   BigNatural under_;
 };
 
-// The count of the nearest double, by halving.
-std::uint64_t NearestCount(const ExactFraction& fraction) {
-  std::uint64_t below = 0;
-  std::uint64_t above = kInfinity;
+// A count less than 10 from the one of the number: reckoned with doubles, each step of which
+// rounds.
+std::uint64_t RoughCount(const DecimalNumber& number) {
+  double value = 0;
+  for (std::size_t i = 0; i < 18; ++i) {
+    value = value * 10 + (i < number.digits.size() ? number.digits[i] - '0' : 0);
+  }
+  const double power = static_cast<double>(number.exponent - 18) / 2;  // halves: neither is too far
+  value = value * std::pow(10.0, std::floor(power)) * std::pow(10.0, std::ceil(power));
+  std::uint64_t count = 0;
+  std::memcpy(&count, &value, sizeof count);
+  return std::min(count, kInfinity);
+}
+
+// The count of the nearest double, by halving what lies around a rough one.
+std::uint64_t NearestCount(const ExactFraction& fraction, std::uint64_t rough) {
+  constexpr std::uint64_t kAround = 16;
+  std::uint64_t below = rough - std::min(rough, kAround);
+  std::uint64_t above = std::min(rough + kAround, kInfinity);
   while (above - below > 1) {
     const std::uint64_t middle = (below + above) / 2;
     (fraction.Compare(BinaryOf(middle)) >= 0 ? below : above) = middle;
@@ -184,7 +201,7 @@ std::optional<double> QuickDouble(const DecimalNumber& number) {
 
 std::optional<double> ExactDouble(const DecimalNumber& number) {
   if (number.exponent < -400 || number.exponent > 400) return std::nullopt;
-  const std::uint64_t count = NearestCount(ExactFraction(number));
+  const std::uint64_t count = NearestCount(ExactFraction(number), RoughCount(number));
   if (count == 0 || count == kInfinity) return std::nullopt;
   const Binary binary = BinaryOf(count);
   return std::ldexp(static_cast<double>(binary.mantissa), static_cast<int>(binary.exponent));
