@@ -78,7 +78,7 @@ TEST_F(ScreenChange, TheScreenInViewMakesNoRoomThoughItIsFree) {
     Send(std::string("toscreen_") + name + "_hideobj_x");
   }
   EXPECT_NE(Child(logic->CurrentScreen(), "dog"), nullptr);
-  EXPECT_EQ(logic->Keeper()->Cache().Item("dogroom").m_ptrGameObject, logic->CurrentScreen());
+  EXPECT_EQ(logic->Keeper()->Cache().Find("dogroom")->m_ptrGameObject, logic->CurrentScreen());
 }
 
 TEST_F(ScreenChange, ANameWithHallOrRoomShowsTheToolsAndKeepsTheCursor) {
