@@ -1,7 +1,10 @@
 # Tests: one executable a room from tests/<room>/*.cpp, one run for every scenario and recording.
 
 enable_testing()
-find_package(GTest REQUIRED)
+find_package(GTest)
+if(NOT GTest_FOUND)
+  message(STATUS "No GoogleTest: playing needs none, and no unit tests are built")
+endif()
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
 # A room's tests run in one process: thousands of tests cost seconds. Each executable leaves a
@@ -20,16 +23,18 @@ add_library(quendle_test_flags INTERFACE)
 target_compile_options(quendle_test_flags INTERFACE $<$<CONFIG:Release>:-O0>)
 
 # gtest's header is compiled once for all test executables.
-file(WRITE ${PROJECT_BINARY_DIR}/test_headers.cpp "")
-add_library(quendle_test_headers STATIC EXCLUDE_FROM_ALL ${PROJECT_BINARY_DIR}/test_headers.cpp)
-target_link_libraries(quendle_test_headers PRIVATE quendle_flags quendle_test_flags GTest::gmock)
-target_precompile_headers(quendle_test_headers PRIVATE
-  <gmock/gmock.h> <gtest/gtest.h> <functional> <map> <memory> <string> <string_view> <vector>)
+if(GTest_FOUND)
+  file(WRITE ${PROJECT_BINARY_DIR}/test_headers.cpp "")
+  add_library(quendle_test_headers STATIC EXCLUDE_FROM_ALL ${PROJECT_BINARY_DIR}/test_headers.cpp)
+  target_link_libraries(quendle_test_headers PRIVATE quendle_flags quendle_test_flags GTest::gmock)
+  target_precompile_headers(quendle_test_headers PRIVATE
+    <gmock/gmock.h> <gtest/gtest.h> <functional> <map> <memory> <string> <string_view> <vector>)
+endif()
 
 # quendle_room_tests(ROOM TARGET): `test_<room>`, when tests/ROOM holds sources. It links the room,
 # what the room may see, and the raster, files and headless backends as its platform.
 function(quendle_room_tests room target)
-  if(room MATCHES "/[A-Z]")
+  if(NOT GTest_FOUND OR room MATCHES "/[A-Z]")
     return()  # a class on a floor of its own is tested with its folder
   endif()
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${room}/*.cpp)
@@ -77,6 +82,17 @@ function(quendle_scenarios)
                      $<TARGET_FILE:wumbly> ${QUENDLE_CONTENT_DIR})
     set_tests_properties(scenario.ended_by_the_system PROPERTIES
       TIMEOUT 300 LABELS scenario ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
+  endif()
+endfunction()
+
+# Real processes that are killed: a sample, `./check faults` does more.
+function(quendle_faults)
+  if(TARGET quendle)
+    add_test(NAME faults.kills
+             COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/faults/kills.py
+                     $<TARGET_FILE:quendle> 20)
+    set_tests_properties(faults.kills PROPERTIES
+      TIMEOUT 300 LABELS faults ENVIRONMENT "${QUENDLE_TEST_ENVIRONMENT}")
   endif()
 endfunction()
 

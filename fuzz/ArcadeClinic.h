@@ -6,7 +6,7 @@
 
 #include "backends/files/MemoryFileSystem.h"
 #include "logic/SmallClinic.h"
-#include "screens/ContentText.h"
+#include "support/ObjectText.h"
 
 namespace quendle {
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Fuzz.h"
+#include "MessageGrammar.h"
 #include "base/TextStream.h"
 #include "media/Graphics.h"
 #include "object/GameObjectInterface.h"
@@ -70,6 +71,56 @@ void Play(TestPlatform& platform, GameObjectInterface& object) {
   object.TurnOff();
 }
 
+constexpr std::string_view kTypeWords[] = {
+    "hall",           "overlay",     "dialog",         "button",          "key",
+    "doctor",         "patient",     "tool",           "bodyview",        "menu",
+    "subgame",        "pointsystem", "playareasquare", "playareablinker", "playareabobbler",
+    "playareashooter"};
+constexpr std::string_view kWords[] = {"nothing",
+                                       "loop",
+                                       "nonloop",
+                                       "statedone",
+                                       "stable",
+                                       "unused",
+                                       "stable+5",
+                                       "GlobalObject_doctor",
+                                       "xpos_20 state_better1",
+                                       "visible_off runstate_bad"};
+
+// The path of a file that the tree in work may have: those of the seeds.
+std::string AnyPath(FuzzRandom& random) {
+  constexpr std::string_view kParts[] = {"data",    "states",   "animation", "frames", "sounds",
+                                         "scripts", "children", "regions",   ""};
+  return "<CurrentDirectory>\\" + AnyObject(random) + std::string(OneOf(random, kParts)) + ".txt";
+}
+
+// A line of some file, a whole script, or the beginning of a file.
+std::string AnyTreeLines(FuzzRandom& random) {
+  switch (Below(random, 9)) {
+    case 0:
+      return std::string(OneOf(random, kTypeWords)) + "\n";
+    case 1:
+      return AnyNumber(random) + "\n";
+    case 2:
+      return AnyPath(random) + "\n";
+    case 3:
+      return std::string(OneOf(random, kWords)) + "\n";
+    case 4:
+      return AnyState(random) + "\n";
+    case 5:
+      return AnyState(random) + "\nnothing\n" + AnyState(random) + "\n" + AnyState(random) +
+             "\nunused\nunused\n";
+    case 6:
+      return "begin\n" + AnyStatements(random) + "end\n";
+    case 7:
+      return "== \\Info\\" + AnyObject(random) + ".txt\n" + std::string(OneOf(random, kTypeWords)) +
+             "\n" + AnyObject(random) + "\n0\n0\n0\n0\n" + AnyPath(random) + "\n" +
+             AnyPath(random) + "\n\n";
+    default:
+      return AnyStatements(random);
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -98,4 +149,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     });
   }
   return 0;
+}
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
+                                               std::size_t most, unsigned seed) {
+  return MutateLines(data, size, most, seed, AnyTreeLines);
 }

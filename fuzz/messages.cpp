@@ -1,16 +1,16 @@
 // Messages, one a line, to a small clinic with the four arcade games. A line ">X Y" is a click, a
-// line "^X Y" a movement, "~N" lets N milliseconds pass, and "?" asks instead of telling.
+// line "^X Y" a movement, "~N" lets N milliseconds pass, "?" asks instead of telling, and "!"
+// draws.
 
 #include <algorithm>
 #include <charconv>
 #include <string>
 #include <string_view>
 
-#include "ArcadeClinic.h"
 #include "Fuzz.h"
+#include "FuzzClinic.h"
+#include "MessageGrammar.h"
 #include "base/TextStream.h"
-#include "logic/LogicBench.h"
-#include "subgames/SubgameClasses.h"
 
 using namespace quendle;
 
@@ -20,7 +20,7 @@ constexpr int kMostLines = 60;
 constexpr int kLongestTick = 400;
 
 // The numbers of a line, 0 where there is none.
-std::pair<int, int> NumbersOf(std::string_view text) {
+std::pair<std::int16_t, std::int16_t> NumbersOf(std::string_view text) {
   int numbers[2] = {0, 0};
   for (int& number : numbers) {
     const char* end = text.data() + text.size();
@@ -28,40 +28,66 @@ std::pair<int, int> NumbersOf(std::string_view text) {
     if (rest != end) ++rest;
     text.remove_prefix(static_cast<std::size_t>(rest - text.data()));
   }
-  return {std::clamp(numbers[0], -2000, 2000), std::clamp(numbers[1], -2000, 2000)};
+  const auto narrow = [](int number) {
+    return static_cast<std::int16_t>(std::clamp(number, -2000, 2000));
+  };
+  return {narrow(numbers[0]), narrow(numbers[1])};
 }
 
-void Do(LogicBench& bench, const std::string& line) {
+void Do(FuzzClinic& clinic, const std::string& line) {
   const char first = line.empty() ? '\0' : line.front();
   const auto [x, y] = NumbersOf(std::string_view(line).substr(line.empty() ? 0 : 1));
+  GameLogicLayer& logic = clinic.Logic();
+  bool result = true;
   switch (first) {
     case '>':
-      return bench.Click(x, y);
+      return logic.MapMouseClick(x, y);
     case '^':
-      return bench.Move(x, y);
+      return logic.MapMouseCoords(x, y);
     case '~':
-      return bench.Tick(std::clamp(x, 0, kLongestTick));
+      return clinic.Tick(std::clamp<int>(x, 0, kLongestTick));
+    case '!':
+      return logic.draw();
     case '?':
-      return static_cast<void>(bench.Ask(line.substr(1)));
+      return logic.HandleMessage(line.substr(1), nullptr, true, result);
     default:
-      return bench.Send(line);
+      return logic.HandleMessage(line, nullptr, false, result);
+  }
+}
+
+std::string AnyLine(FuzzRandom& random) {
+  switch (Below(random, 8)) {
+    case 0:
+      return ">" + AnyNumber(random) + " " + AnyNumber(random) + "\n";
+    case 1:
+      return "^" + AnyNumber(random) + " " + AnyNumber(random) + "\n";
+    case 2:
+      return "~" + std::to_string(Below(random, kLongestTick)) + "\n";
+    case 3:
+      return (Below(random, 4) == 0 ? "!" : "?" + AnyMessage(random)) + "\n";
+    default:
+      return AnyMessage(random) + "\n";
   }
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static FuzzPlatform platform;
+  platform.Renew();
   TextReader lines(std::string(BytesOf(data, size)), "messages.txt");
-  LogicBench bench;
-  RegisterSubgameClasses(bench.factory);
-  PutArcadeScreens(bench.files);
-  bench.Start();
+  FuzzClinic clinic(platform);
   EndsWell([&] {
+    clinic.Start();
     for (int i = 0; i < kMostLines && !lines.AtEndOfStream(); ++i) {
-      Do(bench, lines.ReadLine("a message"));
+      Do(clinic, lines.ReadLine("a message"));
     }
-    bench.logic->draw();
-    bench.logic->TurnOff();
+    clinic.Logic().TurnOff();
   });
   return 0;
+}
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
+                                               std::size_t most, unsigned seed) {
+  return MutateLines(data, size, most, seed, AnyLine);
 }

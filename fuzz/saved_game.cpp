@@ -5,10 +5,11 @@
 #include <vector>
 
 #include "Fuzz.h"
+#include "FuzzClinic.h"
+#include "MessageGrammar.h"
 #include "base/Text.h"
 #include "base/TextStream.h"
 #include "base/WorkDepth.h"
-#include "logic/LogicBench.h"
 #include "screens/GameObjectMemento.h"
 
 using namespace quendle;
@@ -41,17 +42,45 @@ void ReadWriteRead(std::string_view bytes) {
   Require(Written(again, depth) == first, "a saved object is read as it was written");
 }
 
+// A whole record, or a line that stands in one.
+std::string AnyPiece(FuzzRandom& random) {
+  const std::string name = Below(random, 2) == 0 ? AnyScreen(random) : AnyObject(random);
+  switch (Below(random, 8)) {
+    case 0:
+      return name + "\n";
+    case 1:
+      return AnyState(random) + "\n";
+    case 2:
+      return AnyNumber(random) + "\n";
+    case 3:
+      return Below(random, 2) == 0 ? "end\n" : "begin\n";
+    default:
+      return "begin\n" + name + "\n" + AnyState(random) + "\n" + AnyNumber(random) + "\n" +
+             AnyNumber(random) + "\n" + (Below(random, 2) == 0 ? "True\n" : "False\n") +
+             (Below(random, 3) == 0 ? AnyPiece(random) : "") + "end\n";
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static FuzzPlatform platform;
   const std::string_view bytes = BytesOf(data, size);
   ReadWriteRead(bytes);
-  LogicBench bench;
-  bench.files.Put("\\userdata.txt", std::string(bytes));
-  if (!EndsWell([&] { bench.Start(); })) return 0;
+  platform.Renew();
+  platform.files.Put("\\userdata.txt", bytes);
+  FuzzClinic clinic(platform);
   EndsWell([&] {
-    for (const char* screen : {"cs_floor1hall1", "cs_dogroom", "cs_emptyroom1"}) bench.Send(screen);
-    bench.logic->TurnOff();
+    clinic.Start();
+    for (const char* screen : {"cs_floor1hall1", "cs_dogroom", "cs_emptyroom1"}) {
+      clinic.Logic().Send(screen);
+    }
+    clinic.Logic().TurnOff();
   });
   return 0;
+}
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
+                                               std::size_t most, unsigned seed) {
+  return MutateLines(data, size, most, seed, AnyPiece);
 }

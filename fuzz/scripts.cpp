@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Fuzz.h"
+#include "MessageGrammar.h"
 #include "base/TextStream.h"
 #include "base/WorkDepth.h"
 #include "script/ActionText.h"
@@ -76,4 +77,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
   }
   return 0;
+}
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
+                                               std::size_t most, unsigned seed) {
+  return MutateLines(data, size, most, seed, [](FuzzRandom& random) {
+    return Below(random, 6) == 0 ? AnyAction(random) + "\n" : AnyStatements(random);
+  });
 }

@@ -13,7 +13,6 @@ Exit code 0 without survivors, 1 with some, 2 when nothing could be tried.
 
 import argparse
 import collections
-import difflib
 import json
 import os
 import pathlib
@@ -39,7 +38,7 @@ LEAST_SECONDS = 20
 BUILD_SECONDS = 900
 # A fault isn't the compiler's to find for want of brackets around "and" within "or".
 QUIET = '#pragma GCC diagnostic ignored "-Wparentheses"\n#line 1\n'
-FAILED = re.compile(r"^\[  FAILED  \] (\S+)", re.M)
+FAILED = re.compile(r"^\[  FAILED  \] ([^\s,]+)", re.M)
 
 
 class Trouble(Exception):
@@ -191,10 +190,11 @@ def chosen(sources, count, seed):
 
 
 def difference(text, mutant):
-    """The lines that the fault changes, as a diff shows them."""
-    lines = difflib.unified_diff(text.splitlines(), mutant.apply(text).splitlines(), n=0,
-                                 lineterm="")
-    return [line for line in lines if not line.startswith(("---", "+++", "@@"))]
+    """The lines that the fault stands in, without it and with it."""
+    first = mutant.line(text) - 1
+    old = text.split("\n")[first:first + mutant.old.count("\n") + 1]
+    new = mutant.apply(text).split("\n")[first:first + mutant.new.count("\n") + 1]
+    return ["-" + line for line in old] + ["+" + line for line in new]
 
 
 def plant_all(bench, sources, faults):
@@ -272,6 +272,7 @@ def main(words):
 
 
 if __name__ == "__main__":
+    signal.signal(signal.SIGTERM, signal.default_int_handler)  # a stop from outside cleans up too
     try:
         sys.exit(main(sys.argv[1:]))
     except KeyboardInterrupt:

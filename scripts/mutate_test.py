@@ -140,10 +140,16 @@ class ChoiceTest(unittest.TestCase):
         everything = mutate.chosen(self.SOURCES, 10000, 1)
         self.assertEqual(len(everything), 2 * len(mutations.mutants_of(SOURCE)))
 
-    def test_the_difference_is_the_line_that_changes(self):
-        mutant = next(m for m in mutations.mutants_of(SOURCE) if m.operator == "and for or")
-        self.assertEqual(mutate.difference(SOURCE, mutant),
+    def difference(self, operator):
+        mutant = next(m for m in mutations.mutants_of(SOURCE) if m.operator == operator)
+        return mutate.difference(SOURCE, mutant)
+
+    def test_the_difference_is_the_lines_that_the_fault_stands_in(self):
+        self.assertEqual(self.difference("and for or"),
                          ["-  if (!shut_ && width > 3) {", "+  if (!shut_ || width > 3) {"])
+        self.assertEqual(self.difference("swap statements"),
+                         ['-    Turn("two > 1", true);', "-    ++turns_;",
+                          "+    ++turns_;", '+    Turn("two > 1", true);'])
 
 
 class CopyTest(unittest.TestCase):

@@ -1,27 +1,22 @@
 #include "base/Numbers.h"
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 
+#include "base/DecimalNumber.h"
 #include "base/Text.h"
 
 namespace quendle {
 namespace {
 
-bool BeginsNumber(std::string_view text) {
-  if (!text.empty() && text.front() == '-') text.remove_prefix(1);
-  return !text.empty() && (text.front() == '.' || (text.front() >= '0' && text.front() <= '9'));
-}
-
 // Reads a number from the front of `text`; gives the count of characters read, 0 without one.
 std::size_t ReadFront(std::string_view text, double& value) {
-  std::size_t sign = text.starts_with('+') ? 1 : 0;
-  std::string_view digits = text.substr(sign);
-  if (!BeginsNumber(digits) || (sign == 1 && digits.front() == '-')) return 0;
-  auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error != std::errc{}) return 0;
-  return static_cast<std::size_t>(end - text.data());
+  const std::size_t sign = text.starts_with('+') ? 1 : 0;
+  const DecimalNumber number = ReadDecimal(text.substr(sign));
+  const std::optional<double> nearest = NearestDouble(number);
+  if (number.length == 0 || (sign == 1 && number.negative) || !nearest) return 0;
+  value = *nearest;
+  return sign + number.length;
 }
 
 template <class Int>
@@ -49,13 +44,13 @@ std::optional<double> ParseNumber(std::string_view text) {
   text = TrimBlanks(text);
   double value = 0;
   std::size_t used = ReadFront(text, value);
-  if (used == 0 || used != text.size() || !std::isfinite(value)) return std::nullopt;
+  if (used == 0 || used != text.size()) return std::nullopt;
   return value;
 }
 
 double LeadingNumber(std::string_view text) {
   double value = 0;
-  return ReadFront(TrimBlanks(text), value) > 0 && std::isfinite(value) ? value : 0;
+  return ReadFront(TrimBlanks(text), value) > 0 ? value : 0;
 }
 
 std::int16_t ToInt16(double value, std::string_view what, const FilePlace& place) {

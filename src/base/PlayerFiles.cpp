@@ -11,7 +11,7 @@ std::string PlayerPath(const ContentFiles& files, const std::string& name) {
 void DeleteSavedGame(const ContentFiles& files) {
   for (const char* name : kKeptSaves) files.DeleteFileIfPresent(PlayerPath(files, name));
   for (const char* name :
-       {kDamagedSavedGameFile, kDamagedAutosaveFile, kSavedGameFile, kAutosaveFile}) {
+       {kTriedFile, kDamagedSavedGameFile, kDamagedAutosaveFile, kSavedGameFile, kAutosaveFile}) {
     files.DeleteFileIfPresent(PlayerPath(files, name));
   }
 }

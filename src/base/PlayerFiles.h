@@ -25,6 +25,8 @@ inline constexpr const char* kEventLogFile = "general.txt";
 inline constexpr std::array kKeptSaves = {"userdata.txt.1", "userdata.txt.2", "userdata.txt.3"};
 inline constexpr const char* kDamagedSavedGameFile = "userdata-damaged.txt";
 inline constexpr const char* kDamagedAutosaveFile = "autosave-damaged.txt";
+// On which fault starts with the autosave have failed.
+inline constexpr const char* kTriedFile = "autosave-tried.txt";
 
 // All that a run reads at its start.
 inline constexpr std::array kPlayerFiles = {

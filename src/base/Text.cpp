@@ -62,7 +62,7 @@ Utf8Character FrontOf(std::string_view utf8) {
 
 std::optional<char> ByteOf(char32_t code) {
   if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) return static_cast<char>(code);
-  const auto found = std::ranges::find(kHighControls, code);
+  const auto found = std::find(kHighControls.begin(), kHighControls.end(), code);
   if (found == kHighControls.end()) return std::nullopt;
   return static_cast<char>(0x80 + (found - kHighControls.begin()));
 }

@@ -22,7 +22,8 @@ void TimerQueue::KillTimer(int id) { timers_.erase(id); }
 std::vector<TimerInfo> TimerQueue::Running() const {
   std::vector<const Timer*> timers;
   for (const auto& [id, timer] : timers_) timers.push_back(&timer);
-  std::ranges::sort(timers, {}, &Timer::order);
+  std::sort(timers.begin(), timers.end(),
+            [](const Timer* a, const Timer* b) { return a->order < b->order; });
   std::vector<TimerInfo> running;
   for (const Timer* timer : timers) running.push_back(timer->info);
   return running;

@@ -154,7 +154,8 @@ std::vector<AuthorOutline> OutlinesOf(const std::vector<ObjectUnder>& objects) {
   std::vector<AuthorOutline> outlines;
   const auto add = [&outlines](Kind kind, const Rect& area) {
     const AuthorOutline outline{kind, area};
-    if (area.Width() > 0 && area.Height() > 0 && std::ranges::count(outlines, outline) == 0) {
+    if (area.Width() <= 0 || area.Height() <= 0) return;
+    if (std::find(outlines.begin(), outlines.end(), outline) == outlines.end()) {
       outlines.push_back(outline);
     }
   };

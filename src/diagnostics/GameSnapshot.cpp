@@ -25,7 +25,8 @@ class FieldInspector : public Inspector {
  public:
   explicit FieldInspector(StateSnapshot::Fields& fields) : fields_(fields) {}
   void Field(std::string_view name, std::string_view value) override {
-    if (std::ranges::find(kLeftOut, name) == kLeftOut.end()) fields_[ToUtf8(name)] = ToUtf8(value);
+    if (std::find(kLeftOut.begin(), kLeftOut.end(), name) != kLeftOut.end()) return;
+    fields_[ToUtf8(name)] = ToUtf8(value);
   }
   void Field(std::string_view name, long value) override { Field(name, std::to_string(value)); }
   void Flag(std::string_view name, bool value) override { Field(name, Word(value)); }

@@ -58,7 +58,7 @@ class Finder {
     under.hidden = !object.Visible();
     under.hit = on && !under.hidden;
     const auto covers = [this](const NamedArea& frame) { return frame.area.Holds(at_); };
-    if (!on && std::ranges::none_of(under.frames, covers)) return;
+    if (!on && std::none_of(under.frames.begin(), under.frames.end(), covers)) return;
     const Point corner{origin.x + object.xpos(), origin.y + object.ypos()};
     under.area = {corner.x, corner.y, corner.x + object.width(), corner.y + object.height()};
     if (const Region* region = inner.RegionUnder(x, y); region != nullptr && under.hit) {
@@ -129,7 +129,7 @@ std::vector<ObjectUnder> ObjectsUnder(Point at, const GameLogicLayer& logic,
     if (layer != nullptr) finder.Visit(*layer, {0, 0});
   }
   std::vector<ObjectUnder> found = finder.Take();
-  std::ranges::reverse(found);
+  std::reverse(found.begin(), found.end());
   return found;
 }
 

@@ -28,8 +28,8 @@ void AddObject(std::vector<std::string>& lines, const std::string& path,
 }
 
 bool LostFields(const StateSnapshot::Fields& before, const StateSnapshot::Fields& after) {
-  return std::ranges::any_of(before,
-                             [&](const auto& field) { return !after.contains(field.first); });
+  return std::any_of(before.begin(), before.end(),
+                     [&](const auto& field) { return !after.contains(field.first); });
 }
 
 [[noreturn]] void RefuseChange(const std::string& line) {

@@ -142,7 +142,7 @@ class HappeningsReader {
 
   void TakeMoment(const std::string& line, std::string_view word, long time,
                   std::string_view value) {
-    const auto found = std::ranges::find(kMomentWords, word);
+    const auto found = std::find(std::begin(kMomentWords), std::end(kMomentWords), word);
     if (found == std::end(kMomentWords)) Refuse(stream_, line);
     const auto kind = static_cast<SidecarMoment::Kind>(found - std::begin(kMomentWords));
     SidecarMoment moment{time, kind, 0};

@@ -16,8 +16,8 @@ bool IsEntryOfGroup(const Form& form, const Control& radio) {
     if (!SameGroup(other, radio)) continue;
     if (other.value != 0) return false;
   }
-  auto first = std::ranges::find_if(form.controls,
-                                    [&](const Control& other) { return SameGroup(other, radio); });
+  auto first = std::find_if(form.controls.begin(), form.controls.end(),
+                            [&](const Control& other) { return SameGroup(other, radio); });
   return &*first == &radio;
 }
 

@@ -16,6 +16,13 @@ namespace {
 constexpr int kArrowScroll = 20;
 constexpr Rect kTitleButtonSize{0, 0, 28, 28};
 
+// Where the buttons (by index) with a greater index begin.
+auto FirstBehind(const std::vector<FormButton>& buttons, int index) {
+  return std::upper_bound(
+      buttons.begin(), buttons.end(), index,
+      [](int wanted, const FormButton& button) { return wanted < button.index; });
+}
+
 }  // namespace
 
 PictureForm::PictureForm(FormServices services, std::string name, Size size) : services_(services) {
@@ -30,8 +37,7 @@ PictureForm::~PictureForm() {
 void PictureForm::AddButtons(const std::vector<FormButton>& buttons) {
   for (const FormButton& button : buttons) {
     AddPicturePair(form_, button.index, button.art, button.word, button.area);
-    buttons_.insert(std::ranges::upper_bound(buttons_, button.index, {}, &FormButton::index),
-                    button);
+    buttons_.insert(FirstBehind(buttons_, button.index), button);
   }
 }
 
@@ -46,7 +52,7 @@ void PictureForm::AddTitleButtons(int minimise, std::function<void()> close) {
 int PictureForm::LastPicture() const { return buttons_.empty() ? 0 : buttons_.back().index + 1; }
 
 void PictureForm::ButtonCommand(int index) {
-  const auto behind = std::ranges::upper_bound(buttons_, index, {}, &FormButton::index);
+  const auto behind = FirstBehind(buttons_, index);
   if (behind != buttons_.begin()) std::prev(behind)->action();
 }
 

@@ -8,7 +8,7 @@ namespace quendle {
 namespace {
 
 bool HoldsControlCharacter(std::string_view text) {
-  return std::ranges::any_of(text, [](unsigned char c) { return c < ' ' || c == 127; });
+  return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 127; });
 }
 
 }  // namespace

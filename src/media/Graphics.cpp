@@ -60,7 +60,8 @@ class Ladder {
                                &Ladder::SetKey};
     // A failure lowers the depth and goes on with the next step: the one that failed is not
     // repeated, since only the mode depends on the depth.
-    return std::ranges::all_of(kSteps, [this](Step step) { return (this->*step)() || Lower(); });
+    return std::all_of(std::begin(kSteps), std::end(kSteps),
+                       [this](Step step) { return (this->*step)() || Lower(); });
   }
 
  private:

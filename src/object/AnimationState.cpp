@@ -35,7 +35,8 @@ void AnimationState::SetLoopState(std::string_view word) {
 }
 
 bool AnimationState::IsLoopDone() const {
-  return std::ranges::all_of(frame_sets_, &FrameSet::done) &&
+  return std::all_of(frame_sets_.begin(), frame_sets_.end(),
+                     [](const FrameSet& set) { return set.done; }) &&
          (spline_ == nullptr || spline_->IsSplineDone());
 }
 

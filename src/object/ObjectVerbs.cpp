@@ -29,4 +29,25 @@ ObjectVerb ObjectVerbOf(std::string_view first_word) {
   return FirstFit(kRows, first_word, ObjectVerb::kClimb);
 }
 
+bool EndsAtChildren(ObjectVerb verb) {
+  switch (verb) {
+    case ObjectVerb::kShowObj:
+    case ObjectVerb::kShowType:
+    case ObjectVerb::kToType:
+    case ObjectVerb::kToObj:
+      return true;
+    case ObjectVerb::kHideObj:
+    case ObjectVerb::kHideType:
+    case ObjectVerb::kRunScript:
+    case ObjectVerb::kUserAction:
+    case ObjectVerb::kAddGlobalObj:
+    case ObjectVerb::kRunState:
+    case ObjectVerb::kChangeState:
+    case ObjectVerb::kRemoveObj:
+    case ObjectVerb::kClimb:
+      return false;
+  }
+  return false;
+}
+
 }  // namespace quendle

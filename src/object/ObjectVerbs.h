@@ -25,6 +25,9 @@ enum class ObjectVerb {
 // looked for anywhere in the verb or must be the whole of it, is part of the format.
 ObjectVerb ObjectVerbOf(std::string_view first_word);
 
+// The message is for the children that its second word names, and ends there when there are none.
+bool EndsAtChildren(ObjectVerb verb);
+
 // What a script that a message runs gets as its action.
 inline constexpr const char* kRunScriptAction = "nothing";
 

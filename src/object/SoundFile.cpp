@@ -22,7 +22,8 @@ std::vector<SoundRecord> ReadSoundFile(TextStream& stream) {
 }
 
 bool AsksToLoad(const SoundRecord& record) {
-  return std::ranges::any_of(SplitTokens(record.directives, ' '), [](const std::string& word) {
+  const std::vector<std::string> words = SplitTokens(record.directives, ' ');
+  return std::any_of(words.begin(), words.end(), [](const std::string& word) {
     std::vector<std::string> pieces = SplitTokens(word, '_');
     return !pieces.empty() && EqualsNoCase(pieces[0], "load");
   });

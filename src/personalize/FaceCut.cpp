@@ -31,9 +31,12 @@ class ScratchRegion {
 
 Rect BoundingBox(const std::vector<Point>& points) {
   if (points.empty()) return {};
-  const auto [left, right] = std::ranges::minmax(points, {}, &Point::x);
-  const auto [top, bottom] = std::ranges::minmax(points, {}, &Point::y);
-  return {left.x, top.y, right.x, bottom.y};
+  Rect box{points[0].x, points[0].y, points[0].x, points[0].y};
+  for (const Point& point : points) {
+    box = {std::min(box.left, point.x), std::min(box.top, point.y), std::max(box.right, point.x),
+           std::max(box.bottom, point.y)};
+  }
+  return box;
 }
 
 std::int16_t MovedFace(std::int16_t offset, int step) {

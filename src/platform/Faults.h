@@ -26,14 +26,17 @@ inline constexpr std::array<std::string_view, 38> kOperationsThatCanFail = {
     "probe", "read", "makefolder", "open", "write", "writepart", "flush", "rename", "flushfolder",
     "remove", "writeline"};
 
+constexpr bool CanFail(std::string_view operation) {
+  return std::find(kOperationsThatCanFail.begin(), kOperationsThatCanFail.end(), operation) !=
+         kOperationsThatCanFail.end();
+}
+
 // One of these, by its name: a name that isn't among them doesn't compile.
 class Operation {
  public:
   template <std::size_t kSize>
   consteval Operation(const char (&name)[kSize]) : name_(name) {  // NOLINT: a name is an operation
-    if (std::ranges::find(kOperationsThatCanFail, name_) == kOperationsThatCanFail.end()) {
-      throw std::invalid_argument("no operation that can fail");
-    }
+    if (!CanFail(name_)) throw std::invalid_argument("no operation that can fail");
   }
   std::string_view Name() const { return name_; }
 
@@ -50,7 +53,7 @@ class Faults {
   // makes a surface operation report lost memory instead of a plain failure. An operation that
   // nobody asks about is std::invalid_argument.
   void Plan(std::string_view operation, int after, int times, bool lost) {
-    if (std::ranges::find(kOperationsThatCanFail, operation) == kOperationsThatCanFail.end()) {
+    if (!CanFail(operation)) {
       throw std::invalid_argument("no operation that can fail: " + std::string(operation));
     }
     plans_[std::string(operation)] = {after, times, times == 0, lost};

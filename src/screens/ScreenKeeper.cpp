@@ -165,9 +165,7 @@ void ScreenKeeper::RestoreMemento(const ObjectRef& screen) {
   for (const auto& entry : m_colMementos) {
     if (!EqualsNoCase(entry.value->ObjectName(), screen->ObjectName())) continue;
     GameObjectMemento::Ref memento = entry.value;
-    restoring_ = true;
     screen->LoadMemento(*memento);
-    restoring_ = false;
     return;
   }
 }
@@ -235,9 +233,8 @@ std::string ScreenKeeper::FullPath(const std::string& file_name) const {
 }
 
 bool ScreenKeeper::DoesScreenExist(const std::string& name) const {
-  return std::ranges::any_of(m_colScreenInfo, [&](const auto& entry) {
-    return EqualsNoCase(entry.value.ScreenName, name);
-  });
+  return std::any_of(m_colScreenInfo.begin(), m_colScreenInfo.end(),
+                     [&](const auto& entry) { return EqualsNoCase(entry.value.ScreenName, name); });
 }
 
 void ScreenKeeper::EnumerateScreens(std::vector<std::string>& names) const {

@@ -71,8 +71,6 @@ class ScreenKeeper {
 
   const KeyedList<ScreenCacheEntry>& Cache() const { return m_colScreenCache; }
   const KeyedList<ScreenInfoEntry>& Table() const { return m_colScreenInfo; }
-  // A fault has stopped the putting back of a record: what was saved doesn't fit the content.
-  bool RestoreHasFailed() const { return restoring_; }
   const GameObjectMemento::List& Mementos() const { return m_colMementos; }
 
  private:
@@ -94,7 +92,6 @@ class ScreenKeeper {
   GameObjectMemento::List m_colMementos{"saved screen"};
   std::weak_ptr<MessageTarget> m_ptrGameLogic;
   ContextHandle m_hDC = 0;
-  bool restoring_ = false;
 };
 
 }  // namespace quendle

@@ -1,6 +1,7 @@
 #include "screens/ScreenNames.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "base/Text.h"
 
@@ -13,8 +14,8 @@ bool IsLayer(std::string_view screen) {
 bool IsTutorial(std::string_view screen) { return ContainsNoCase(screen, kTutorialWord); }
 
 bool IsNeverSaved(std::string_view screen) {
-  return std::ranges::any_of(kUnsavedWords,
-                             [&](std::string_view word) { return ContainsNoCase(screen, word); });
+  return std::any_of(std::begin(kUnsavedWords), std::end(kUnsavedWords),
+                     [&](std::string_view word) { return ContainsNoCase(screen, word); });
 }
 
 }  // namespace quendle

@@ -108,7 +108,7 @@ void Application::ReportFault(const FatalError& error) {
   for (const TimerInfo& timer : ports_.timers.Running()) ports_.timers.KillTimer(timer.id);
   fault_.box_text = ComposeBox(error, fault_);
   if (globals_ != nullptr) {
-    GiveUpWhatFailed(*globals_);
+    NoteFailedStart(*globals_, error.what());
     if (globals_->EventLog != nullptr) {
       globals_->EventLog->LogEvent("Fatal: " + fault_.box_text, kFaultLevel, "General");
     }

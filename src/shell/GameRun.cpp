@@ -73,13 +73,13 @@ void StartUpGame(Globals& globals, SettingsFiles& files, GameHost& host, int win
   LoadGlobalScripts(globals);
   LoadGlobalObjects(globals, context);
   const SavedGames saves(globals.media.content, globals.forgiving);
-  const SavedGames::Choice choice = saves.Choose();
-  globals.recovering = choice.file == kAutosaveFile;
+  SavedGames::Choice choice = saves.Choose();
+  globals.starting = choice;
   globals.GameLogic->Initialize(context, choice.file);
   if (globals.Tester != nullptr) globals.Tester->Start(globals.GameLogic, choice.file);
   globals.GameLogic->TurnOn();
-  globals.recovering = false;
-  saves.KeepGood(choice.file);
+  globals.starting.reset();
+  saves.StartHasGoneWell(choice);
   TellFamily(globals, choice.sentence);
   if (globals.media.content.HasUnsaved()) TellFamily(globals, kNothingRemembered);
 }
@@ -110,11 +110,10 @@ void ShutDownGame(Globals& globals, SettingsFiles& files) {
   ReleaseDisplay(globals);
 }
 
-void GiveUpWhatFailed(Globals& globals) {
-  if (!globals.recovering || globals.GameLogic == nullptr) return;
-  const ScreenKeeper* keeper = globals.GameLogic->Keeper();
-  if (keeper == nullptr || !keeper->RestoreHasFailed()) return;
-  SavedGames(globals.media.content, globals.forgiving).GiveUpAutosave();
+void NoteFailedStart(Globals& globals, const std::string& fault) {
+  if (!globals.starting) return;
+  const SavedGames saves(globals.media.content, globals.forgiving);
+  saves.StartHasFailed(*globals.starting, fault);
 }
 
 void ReleaseDisplay(Globals& globals) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "logic/GameHost.h"
 #include "platform/Gdi.h"
 
@@ -23,8 +25,8 @@ void StartUpGame(Globals& globals, SettingsFiles& files, GameHost& host, int win
 // the autosave stays for the next start.
 void ShutDownGame(Globals& globals, SettingsFiles& files);
 
-// After a fault: an autosave that was itself what stopped the start is not loaded again.
-void GiveUpWhatFailed(Globals& globals);
+// After a fault: remembers it, if a start was under way, for the judgement on an autosave.
+void NoteFailedStart(Globals& globals, const std::string& fault);
 
 // Gives the display back without saving.
 void ReleaseDisplay(Globals& globals);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "base/ContentFiles.h"
 #include "base/Settings.h"
@@ -10,6 +11,7 @@
 #include "object/ObjectWorld.h"
 #include "platform/Ports.h"
 #include "script/ScriptWorld.h"
+#include "shell/SavedGames.h"
 
 namespace quendle {
 
@@ -32,11 +34,11 @@ struct Globals {
   ObjectFactory factory;  // knows every type word
   ObjectWorld objects;
   std::unique_ptr<TestingObject> EventLog;
-  Debomb_Window* debug_window = nullptr;      // shows the event log too, if there is one
-  std::shared_ptr<GameLogicLayer> GameLogic;  // null before it is created and after its end
-  std::unique_ptr<TesterRun> Tester;          // null unless the recorder is switched on
-  bool forgiving = false;                     // as Application::SetForgiving
-  bool recovering = false;                    // the start under way has loaded the autosave
+  Debomb_Window* debug_window = nullptr;       // shows the event log too, if there is one
+  std::shared_ptr<GameLogicLayer> GameLogic;   // null before it is created and after its end
+  std::unique_ptr<TesterRun> Tester;           // null unless the recorder is switched on
+  bool forgiving = false;                      // as Application::SetForgiving
+  std::optional<SavedGames::Choice> starting;  // of the start under way
 };
 
 }  // namespace quendle

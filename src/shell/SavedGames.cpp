@@ -1,5 +1,6 @@
 #include "shell/SavedGames.h"
 
+#include <string_view>
 #include <utility>
 
 #include "base/ContentFiles.h"
@@ -17,12 +18,21 @@ constexpr const char* kEndIsLost =
 constexpr const char* kSaveIsLost =
     "The saved game could not be read, so the game goes on from the one that was saved before it.";
 
+// How often starts have failed on the autosave, behind the line of their fault.
+constexpr std::string_view kOnce = "once\r\n";
+constexpr std::string_view kTwice = "twice\r\n";
+
 }  // namespace
 
 SavedGames::Choice SavedGames::Choose() const {
   const std::optional<std::string> autosave = Open(kAutosaveFile);
   if (!autosave) return ChooseWithoutAutosave();
-  if (IsGood(*autosave, kAutosaveFile)) return {kAutosaveFile, ""};
+  if (IsGood(*autosave, kAutosaveFile)) {
+    if (!HasFailedTwice()) return {kAutosaveFile, ""};
+    Choice choice = ChooseWithoutAutosave();
+    choice.on_trial = true;
+    return choice;
+  }
   GiveUpAutosave();
   // The newest kept save was good when the lost game began or ended: it isn't older than the saved
   // game.
@@ -48,6 +58,27 @@ SavedGames::Choice SavedGames::ChooseInPlaceOfSavedGame(const std::string& damag
     }
   }
   return {*kept, kSaveIsLost};
+}
+
+void SavedGames::StartHasGoneWell(Choice& choice) const {
+  if (choice.on_trial) {
+    GiveUpAutosave();
+    choice.sentence = kEndIsLost;
+  }
+  files_.TryDelete(PathOf(kTriedFile));
+  KeepGood(choice.file);
+}
+
+void SavedGames::StartHasFailed(const Choice& choice, const std::string& fault) const {
+  if (choice.on_trial) files_.TryDelete(PathOf(kTriedFile));
+  if (choice.file != kAutosaveFile) return;
+  std::string line = fault.substr(0, fault.find_first_of("\r\n")) + "\r\n";
+  const bool again = files_.Read(PathOf(kTriedFile)).value_or("").starts_with(line);
+  files_.TryWrite(PathOf(kTriedFile), line.append(again ? kTwice : kOnce));
+}
+
+bool SavedGames::HasFailedTwice() const {
+  return files_.Read(PathOf(kTriedFile)).value_or("").ends_with(kTwice);
 }
 
 void SavedGames::KeepGood(const std::string& file) const {

@@ -1,6 +1,7 @@
 #include "subgames/SubgameKinds.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "base/Text.h"
 
@@ -26,7 +27,8 @@ constexpr SubgameRow kRows[] = {
 std::span<const SubgameRow> Subgames() { return kRows; }
 
 const SubgameRow& RowOf(SubgameKind kind) {
-  return *std::ranges::find(kRows, kind, &SubgameRow::kind);
+  return *std::find_if(std::begin(kRows), std::end(kRows),
+                       [kind](const SubgameRow& row) { return row.kind == kind; });
 }
 
 std::optional<SubgameKind> SubgameKindOf(std::string_view type_word) {

@@ -505,10 +505,10 @@ TEST_F(ChildrenOfALoad, GlobalObjectsInsideOneAnotherHaveTheSameLimit) {
   TestedObject below = bench_.LoadGlobal("g1");
   for (int level = 2; level <= 60; ++level) {
     const std::string name = "g" + std::to_string(level);
-    bench_.Object(name, "hall").Child("GlobalObject_g" + std::to_string(level - 1));
+    bench_.Object(name, "hall").GlobalChild("g" + std::to_string(level - 1));
     bench_.LoadGlobal(name);
   }
-  bench_.Object("g61", "hall").Child("GlobalObject_g60");
+  bench_.Object("g61", "hall").GlobalChild("g60");
   EXPECT_EQ(LoadFault("g61"),
             "more than 60 objects inside one another: the content is nested too deep at \"g1\"");
 }

@@ -55,6 +55,15 @@ TEST(ObjectVerbs, TheRestClimbs) {
   }
 }
 
+TEST(ObjectVerbs, WhatIsOnlyForChildrenEndsAtThem) {
+  for (const char* word : {"showobj", "showtype", "toobj", "totype"}) {
+    EXPECT_TRUE(EndsAtChildren(ObjectVerbOf(word))) << word;
+  }
+  for (const char* word : {"hideobj", "hidetype", "removeobj", "runscript", "cs", "useraction"}) {
+    EXPECT_FALSE(EndsAtChildren(ObjectVerbOf(word))) << word;
+  }
+}
+
 TEST(ObjectDirectives, AWordWithoutAKnownKeyAndValueSaysNothing) {
   for (const char* word : {"visible_on", "VISIBLE_Off", "depth_x", "state_a", "runstate_a",
                            "xpos_1", "ypos_1", "__state__a_b"}) {

@@ -59,7 +59,7 @@ class BrokenSaver : public PictureSaver {
  public:
   explicit BrokenSaver(MemoryFileSystem& files) : files_(files) {}
   bool SavePicture(const std::string& path, const Picture&) override {
-    return files_.Write(path, "BM nonsense");
+    return static_cast<bool>(files_.Write(path, "BM nonsense"));
   }
 
  private:

@@ -184,18 +184,52 @@ TEST_F(Autosave, AStartThatFailsForAnotherReasonLeavesIt) {
   EXPECT_EQ(DogRemembered(run.files), "won");
 }
 
-// The first screen of the content has a state that leads nowhere.
-TEST_F(Autosave, OneThatCannotBePutBackIsGivenUp) {
-  const std::string saved =
-      "begin\r\nbegin\r\nintroscreen\r\nbroken\r\n0\r\n0\r\nTrue\r\nend\r\nend\r\n";
+TEST_F(Autosave, OneThatTwoStartsFailOnIsGivenUpOnceAStartWithoutItGoesWell) {
+  const std::string saved = SavedDog("lost");
   files.Put("\\autosave.txt", saved);
-  NextRun run(files);
-  PutScreen(run.files, {.type = "hall",
-                        .name = "introscreen",
-                        .states = {{.name = "default"}, {.name = "broken", .animation = "none"}}});
-  EXPECT_EQ(run.Play(), Status::kFailed);
-  EXPECT_EQ(run.File("\\autosave.txt"), kNone);
-  EXPECT_EQ(run.File("\\autosave-damaged.txt"), saved);
+  files.Put("\\userdata.txt", SavedDog("won"));
+  MemoryFileSystem disk = files;
+  for (int start = 1; start <= 2; ++start) {
+    NextRun run(disk);
+    run.files.Remove("C:\\game\\Info\\tools\\data.txt");  // in its place: what the state can't do
+    EXPECT_EQ(run.Play(), Status::kFailed);
+    EXPECT_EQ(run.File("\\autosave.txt"), saved) << start;
+    disk = run.files;
+  }
+  NextRun third(disk);
+  ASSERT_EQ(third.Play(), Status::kRunning);
+  EXPECT_THAT(third.Boxes(), ElementsAre(HasSubstr("The end of the last game")));
+  EXPECT_EQ(third.File("\\autosave.txt"), kNone);
+  EXPECT_EQ(third.File("\\autosave-damaged.txt"), saved);
+  EXPECT_EQ(third.File("\\autosave-tried.txt"), kNone);
+  EXPECT_EQ(third.Dog(), "won");
+}
+
+TEST_F(Autosave, AStartWithoutItThatFailsAsWellAcquitsIt) {
+  files.Put("\\userdata.txt", SavedDog("lost"));
+  files.Put("\\autosave.txt", SavedDog("won"));
+  MemoryFileSystem disk = files;
+  for (int start = 1; start <= 3; ++start) {
+    NextRun run(disk);
+    run.files.Remove("C:\\game\\Info\\introscreen\\data.txt");
+    EXPECT_EQ(run.Play(), Status::kFailed);
+    disk = run.files;
+  }
+  EXPECT_FALSE(disk.Get("\\autosave-tried.txt"));
+  EXPECT_EQ(DogRemembered(disk), "won");
+}
+
+TEST_F(Autosave, StartsThatFailOnDifferentFaultsLeaveIt) {
+  files.Put("\\userdata.txt", SavedDog("lost"));
+  files.Put("\\autosave.txt", SavedDog("won"));
+  MemoryFileSystem disk = files;
+  for (const char* missing : {"introscreen", "tools", "introscreen", "tools"}) {
+    NextRun run(disk);
+    run.files.Remove(std::string("C:\\game\\Info\\") + missing + "\\data.txt");
+    EXPECT_EQ(run.Play(), Status::kFailed);
+    disk = run.files;
+  }
+  EXPECT_EQ(DogRemembered(disk), "won");
 }
 
 TEST_F(Autosave, OneThatCannotBeOpenedStopsTheStartAndStays) {

@@ -89,7 +89,9 @@ TEST_F(BobblerGame, ACellTakesItsFullSpeedAwayFromASide) {
   EXPECT_EQ(SpeedAfterUpdate(0, 300), "10,2");
   EXPECT_EQ(SpeedAfterUpdate(1, 300), "1,2");
   EXPECT_EQ(SpeedAfterUpdate(400, 580), "1,-8");
+  EXPECT_EQ(SpeedAfterUpdate(400, 579), "1,2");
   EXPECT_EQ(SpeedAfterUpdate(400, 0), "1,8");
+  EXPECT_EQ(SpeedAfterUpdate(400, 1), "1,2");
   EXPECT_EQ(SpeedAfterUpdate(-5, 590), "10,-8");
 }
 

@@ -9,6 +9,38 @@
 namespace quendle {
 namespace {
 
+// What stands at the moment in which the play button is shown.
+template <class Bench>
+void ExpectCellsBeforeTheButton(std::size_t cells) {
+  struct NotedMoment : Tracer {
+    explicit NotedMoment(Bench& watched) : bench(watched) { bench.watch.tracer = this; }
+    ~NotedMoment() override { bench.watch.tracer = nullptr; }
+    void Trace(const TraceEvent& event) override {
+      if (event.kind != TraceKind::kMessage || event.text != "showobj_Play1" || events++ > 0)
+        return;
+      cells = bench.area->Children().Count();
+      timers = bench.backend.timers.Running().size();
+    }
+    Bench& bench;
+    int events = 0;
+    std::size_t cells = 0;
+    std::size_t timers = 0;
+  };
+  Bench bench;
+  bench.LoadGame();
+  NotedMoment moment(bench);
+  bench.game->TurnOn();
+  EXPECT_GT(moment.events, 0);
+  EXPECT_EQ(moment.cells, cells);
+  EXPECT_EQ(moment.timers, 0u) << "the clock begins to run last";
+}
+
+TEST(PreparedGame, HasItsCellsBeforeThePlayButtonIsShown) {
+  ExpectCellsBeforeTheButton<ShooterBench>(13);
+  ExpectCellsBeforeTheButton<BlinkerBench>(34);
+  ExpectCellsBeforeTheButton<BobblerBench>(30);
+}
+
 TEST(RunningGame, IsNotStartedAgain) {
   BlinkerBench bench;
   bench.StartGame();

@@ -142,15 +142,15 @@ std::vector<CheckPair> ScriptPairs() {
       {"V710", "Info\\dog\\wellscript.txt:3",
        Well("begin\nif action = hop\nmtp useraction_hop\nendif\nend\n"),
        Well("begin\nif action = hop\nchange default\nmtp useraction_hop\nendif\nend\n")},
-      {"V710", "Info\\dog\\wellscript.txt:5",
+      {"V710", "Info\\dog\\wellscript.txt:3",
        Well("begin\nif action = hop\nmtp toobj_dog_useraction_skip\nelseif action = skip\n"
             "mtp toscreen_currentscreen_useraction_hop\nendif\nend\n"),
        Well("begin\nif action = hop\nmtp toobj_dog_useraction_skip\nelseif action = skip\n"
             "mtp toscreen_currentscreen_useraction_jump\nendif\nend\n")},
       {"V710", "Info\\dog\\wellscript.txt:2", Well("begin\nmtp toobj_dog_runscript_well\nend\n"),
        Well("begin\nmtp toobj_dog_runscript_treat\nend\n")},
-      {"V711", "Info\\dog\\wellscript.txt:52", Row(30, 2), Row(30, 1)},
-      {"V711", "Info\\dog\\wellscript.txt:198", Row(5000, 1), Row(90, 1)},
+      {"V711", "Info\\dog\\wellscript.txt:45", Row(30, 2), Row(30, 1)},
+      {"V711", "Info\\dog\\wellscript.txt:135", Row(150, 1), Row(40, 1)},
   };
 }
 

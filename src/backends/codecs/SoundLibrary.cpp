@@ -14,7 +14,9 @@ SoundLibrary::SoundLibrary(FileSystem& files, SoundDecoder decoder, std::size_t 
 
 std::shared_ptr<const DecodedSound> SoundLibrary::Get(const std::string& path) {
   std::string key = FoldCase(path);
-  if (auto found = std::ranges::find(kept_, key, &Kept::key); found != kept_.end()) {
+  const auto found = std::find_if(kept_.begin(), kept_.end(),
+                                  [&key](const Kept& kept) { return kept.key == key; });
+  if (found != kept_.end()) {
     std::rotate(found, found + 1, kept_.end());
     return kept_.back().sound;
   }

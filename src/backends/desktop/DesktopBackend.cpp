@@ -23,12 +23,14 @@ DiskFolders DiskFoldersOf(const GameFolders& folders) {
 }  // namespace
 
 DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& options,
-                               GameFolders folders)
+                               GameFolders folders, Clock* clock)
     : folders_(std::move(folders)),
       wants_debug_(options.debug),
       tester_(options.tester),
-      clock_(tester_ ? static_cast<Clock&>(step_clock_) : real_clock_),
-      loop_(tester_ ? DesktopEventLoop(step_clock_) : DesktopEventLoop(real_clock_)),
+      clock_(tester_            ? static_cast<Clock&>(step_clock_)
+             : clock != nullptr ? *clock
+                                : real_clock_),
+      loop_(tester_ ? DesktopEventLoop(step_clock_) : DesktopEventLoop(clock_)),
       seed_(FreshSeed()),
       random_(seed_),
       files_(DiskFoldersOf(folders_), faults_),
@@ -55,7 +57,7 @@ DesktopBackend::DesktopBackend(const std::string& program, const GameOptions& op
     throw FatalError("no display can be opened: " + library_.Problem());
   }
   // What is heard drifts from any clock: a recording must not depend on it.
-  if (tester_) filter_graphs_.GoByClockAlone();
+  if (tester_ || clock != nullptr) filter_graphs_.GoByClockAlone();
   loop_.Add(window_);
   captions_.SetOn(options.captions.value_or(caption_setting_.Read()));
   window_->AddLayer(captions_);

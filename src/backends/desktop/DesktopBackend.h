@@ -44,10 +44,13 @@ namespace quendle {
 //   backend.Run();  // ends by the exception that ends the game
 class DesktopBackend {
  public:
-  // Without a display: FatalError.
-  DesktopBackend(const std::string& program, const GameOptions& options, GameFolders folders);
+  // Without a display: FatalError. A `clock` that isn't null goes in place of the system's, for
+  // sounds as well, and outlives the backend.
+  DesktopBackend(const std::string& program, const GameOptions& options, GameFolders folders,
+                 Clock* clock = nullptr);
 
   Ports& GetPorts() { return ports_; }
+  DesktopEventLoop& Loop() { return loop_; }
   // Settings.BaseDirectory of the game.
   const std::string& BaseDirectory() const { return folders_.content; }
   // The recorder of user actions is asked for: the interval of its ticks in milliseconds.

@@ -162,7 +162,8 @@ void DesktopEventLoop::Settle() {
 
 // The library has one switch for all windows, and turning it costs a round of the window system.
 void DesktopEventLoop::AllowDrops() {
-  const bool wanted = std::ranges::any_of(Targets(), [this](const auto& target) {
+  const auto targets = Targets();
+  const bool wanted = std::any_of(targets.begin(), targets.end(), [this](const auto& target) {
     return TakesInput(*target) && target->TakesDrops();
   });
   if (wanted == (SDL_EventState(SDL_DROPFILE, SDL_QUERY) == SDL_ENABLE)) return;

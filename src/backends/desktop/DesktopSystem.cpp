@@ -32,7 +32,8 @@ void StartOpener(const char* address) {
 }  // namespace
 
 std::string ShellAddress(const std::string& address) {
-  bool plain = std::ranges::all_of(address, [](unsigned char c) { return c > ' ' && c < 127; });
+  bool plain = std::all_of(address.begin(), address.end(),
+                           [](unsigned char c) { return c > ' ' && c < 127; });
   if (!plain) return "";
   std::string folded = FoldCase(address);
   if (folded.starts_with("http://") || folded.starts_with("https://") ||

@@ -196,7 +196,7 @@ bool DesktopWindow::SendToLayers(const SDL_Event& event) {
     const std::optional<FunctionKey> key = FunctionKeyOf(event.key.keysym);
     return key && layer->TakeKey(*key);
   };
-  if (!std::ranges::any_of(layers_, takes)) return false;
+  if (!std::any_of(layers_.begin(), layers_.end(), takes)) return false;
   stale_ = true;
   return true;
 }

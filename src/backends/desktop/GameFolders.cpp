@@ -17,7 +17,7 @@ constexpr const char* kMarker = "\\Info\\screens.txt";
 bool HoldsContent(const std::string& folder) {
   Faults none;
   DiskFileSystem files({folder, "", ""}, none);
-  return files.Exists(folder + kMarker);
+  return files.Read(folder + kMarker).has_value();
 }
 
 std::string Absolute(const std::string& folder) {

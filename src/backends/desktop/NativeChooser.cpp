@@ -21,10 +21,10 @@ constexpr int kCancelled = 1;  // the exit code of both helpers
 
 bool IsInstalled(const std::string& program) {
   const char* path = std::getenv("PATH");
-  return std::ranges::any_of(SplitTokens(path == nullptr ? "" : path, ':'),
-                             [&](const std::string& folder) {
-                               return access((folder + "/" + program).c_str(), X_OK) == 0;
-                             });
+  const std::vector<std::string> folders = SplitTokens(path == nullptr ? "" : path, ':');
+  return std::any_of(folders.begin(), folders.end(), [&](const std::string& folder) {
+    return access((folder + "/" + program).c_str(), X_OK) == 0;
+  });
 }
 
 // The helper of the desktop in use first.
@@ -39,7 +39,7 @@ std::string FindHelper() {
 
 std::string BlankParted(const std::string& patterns) {
   std::string text = patterns;
-  std::ranges::replace(text, ';', ' ');
+  std::replace(text.begin(), text.end(), ';', ' ');
   return text;
 }
 

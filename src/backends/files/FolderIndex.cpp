@@ -50,6 +50,12 @@ unsigned char TypeOf(mode_t mode) {
   return S_ISDIR(mode) ? DT_DIR : DT_UNKNOWN;
 }
 
+template <class Entries>
+void SortByName(Entries& entries) {
+  std::sort(entries.begin(), entries.end(),
+            [](const auto& a, const auto& b) { return a.name < b.name; });
+}
+
 }  // namespace
 
 std::string NativeJoin(const std::string& folder, const std::string& name) {
@@ -150,7 +156,7 @@ FolderIndex::Folder FolderIndex::ReadFolder(const std::string& folder) const {
   }
   result.error = errno;
   for (auto& [key, namesakes] : entries) {
-    std::ranges::sort(namesakes, {}, &Entry::name);
+    SortByName(namesakes);
     result.entries.emplace(key, std::make_shared<const std::vector<Entry>>(std::move(namesakes)));
   }
   return result;
@@ -200,7 +206,7 @@ void FolderIndex::NoteFile(const std::string& folder, const std::string& name) {
   Namesakes& namesakes = Known(folder).entries[FoldCase(entry.name)];
   std::vector<Entry> changed = namesakes ? *namesakes : std::vector<Entry>();
   changed.push_back(std::move(entry));
-  std::ranges::sort(changed, {}, &Entry::name);
+  SortByName(changed);
   namesakes = std::make_shared<const std::vector<Entry>>(std::move(changed));
 }
 

@@ -130,7 +130,7 @@ std::vector<std::string> MemoryFileSystem::Paths() const {
       paths.push_back(base_directory_ + Joined(file.path, file.path.size()));
     }
   }
-  std::ranges::sort(paths);
+  std::sort(paths.begin(), paths.end());
   return paths;
 }
 

@@ -44,8 +44,8 @@ constexpr std::array<Look, 20> kLooks = {{{"play", "Play", kLeaf, kLeafDeep},
                                           {"close", "", kRose, kRoseDeep}}};
 
 Look LookOf(std::string_view name) {
-  auto found =
-      std::ranges::find_if(kLooks, [&](const Look& look) { return EqualsNoCase(look.name, name); });
+  auto found = std::find_if(kLooks.begin(), kLooks.end(),
+                            [&](const Look& look) { return EqualsNoCase(look.name, name); });
   return found != kLooks.end() ? *found : Look{name, "", kSky, kSkyDeep};
 }
 

@@ -62,7 +62,8 @@ void AddSpan(std::vector<double>& row, double from, double to) {
 }
 
 void AddLine(std::vector<double>& row, std::vector<Crossing>& crossings) {
-  std::ranges::sort(crossings, {}, &Crossing::x);
+  std::sort(crossings.begin(), crossings.end(),
+            [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
   int winding = 0;
   double start = 0;
   for (const Crossing& crossing : crossings) {
@@ -106,8 +107,8 @@ void Canvas::SetClip(const Rect& area) {
 void Canvas::LiftClip() { clip_ = {0, 0, size_.width, size_.height}; }
 
 void Canvas::Clear(Rgba color) {
-  std::ranges::fill(
-      pixels_, 0xFF000000u | std::uint32_t{color.r} << 16 | std::uint32_t{color.g} << 8 | color.b);
+  std::fill(pixels_.begin(), pixels_.end(),
+            0xFF000000u | std::uint32_t{color.r} << 16 | std::uint32_t{color.g} << 8 | color.b);
 }
 
 void Canvas::Fill(const Path& path, Rgba color) { FillWith(path, {color, color, 0, 1}); }
@@ -167,13 +168,14 @@ void Canvas::FillWith(const Path& path, const Shade& shade) {
     top = std::min(top, edge.upper.y);
     bottom = std::max(bottom, edge.lower.y);
   }
-  std::ranges::sort(edges, {}, [](const Edge& edge) { return edge.upper.y; });
+  std::sort(edges.begin(), edges.end(),
+            [](const Edge& a, const Edge& b) { return a.upper.y < b.upper.y; });
   int first = std::max(0, static_cast<int>(std::floor(top)));
   int last = std::min(size_.height - 1, static_cast<int>(std::floor(bottom)));
   std::vector<double> coverage(static_cast<std::size_t>(size_.width));
   std::vector<Crossing> crossings;
   for (int row = first; row <= last; ++row) {
-    std::ranges::fill(coverage, 0.0);
+    std::fill(coverage.begin(), coverage.end(), 0.0);
     for (int line = 0; line < kLinesPerRow; ++line) {
       double y = row + (line + 0.5) / kLinesPerRow;
       crossings.clear();

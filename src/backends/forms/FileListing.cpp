@@ -59,8 +59,9 @@ fs::path NamedPicturesFolder(const fs::path& home) {
 }  // namespace
 
 bool FitsPattern(const std::string& name, const std::string& patterns) {
-  return std::ranges::any_of(SplitTokens(patterns, ';'),
-                             [&](const std::string& pattern) { return FitsOne(name, pattern); });
+  const std::vector<std::string> each = SplitTokens(patterns, ';');
+  return std::any_of(each.begin(), each.end(),
+                     [&](const std::string& pattern) { return FitsOne(name, pattern); });
 }
 
 std::vector<ListedFile> ListFolder(const fs::path& folder, const std::string& patterns) {
@@ -73,7 +74,7 @@ std::vector<ListedFile> ListFolder(const fs::path& folder, const std::string& pa
     const bool is_folder = IsFolder(entry->path());
     if (is_folder || FitsPattern(name, patterns)) listed.push_back({entry->path(), is_folder});
   }
-  std::ranges::sort(listed, [](const ListedFile& a, const ListedFile& b) {
+  std::sort(listed.begin(), listed.end(), [](const ListedFile& a, const ListedFile& b) {
     if (a.folder != b.folder) return a.folder;
     return FoldCase(a.path.filename().string()) < FoldCase(b.path.filename().string());
   });

@@ -24,9 +24,10 @@ Control* FormInput::ControlNumber(int position) {
 }
 
 Control* FormInput::TextField() {
-  auto found = std::ranges::find_if(form_.controls, [](const Control& control) {
-    return control.kind == ControlKind::kText && control.visible && control.enabled;
-  });
+  auto found =
+      std::find_if(form_.controls.begin(), form_.controls.end(), [](const Control& control) {
+        return control.kind == ControlKind::kText && control.visible && control.enabled;
+      });
   return found == form_.controls.end() ? nullptr : &*found;
 }
 
@@ -112,10 +113,11 @@ bool FormInput::ScrollTo(int position, Point at) {
 }
 
 void FormInput::WheelOne(bool lying, int notches) {
-  auto found = std::ranges::find_if(form_.controls, [lying](const Control& control) {
-    return control.kind == ControlKind::kScroll && control.visible && control.enabled &&
-           IsLying(control) == lying;
-  });
+  auto found =
+      std::find_if(form_.controls.begin(), form_.controls.end(), [lying](const Control& control) {
+        return control.kind == ControlKind::kScroll && control.visible && control.enabled &&
+               IsLying(control) == lying;
+      });
   if (notches == 0 || found == form_.controls.end()) return;
   events_.Set(*found,
               std::clamp(found->value + notches * std::min(kWheelStep, 1 + found->maximum / 8), 0,

@@ -13,8 +13,9 @@ void FormList::Remove(const Form& form) {
 }
 
 FormInput* FormList::InView() {
-  auto found = std::ranges::find_if(
-      forms_, [](const auto& input) { return input->Record().visible && input->Record().enabled; });
+  auto found = std::find_if(forms_.begin(), forms_.end(), [](const auto& input) {
+    return input->Record().visible && input->Record().enabled;
+  });
   return found == forms_.end() ? nullptr : found->get();
 }
 

@@ -34,7 +34,7 @@ Path Around(const Rect& area, double by, double radius) {
 }
 
 bool TitleIsLabelled(const Form& form) {
-  return std::ranges::any_of(form.controls, [](const Control& control) {
+  return std::any_of(form.controls.begin(), form.controls.end(), [](const Control& control) {
     return control.kind == ControlKind::kLabel && control.visible && !control.text.empty() &&
            control.area.top < kTitleBand;
   });

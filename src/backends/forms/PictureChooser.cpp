@@ -87,7 +87,8 @@ void PictureChooser::OpenFolder(const std::filesystem::path& folder) {
   bar.maximum = std::max(rows - kRows, 0);
   bar.visible = bar.maximum > 0;
   bar.value = 0;
-  const bool empty = std::ranges::all_of(entries_, &ListedFile::folder);
+  const bool empty = std::all_of(entries_.begin(), entries_.end(),
+                                 [](const ListedFile& file) { return file.folder; });
   form_.Find("empty")->visible = empty && entries_.size() <= 1;
   ShowTiles();
 }

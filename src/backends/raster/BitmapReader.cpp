@@ -131,8 +131,8 @@ BitmapFile ReadBitmapFile(std::string_view bytes) {
   const Palette palette = header.bits == 8 ? ReadPalette(bytes, header) : Palette{};
   file.width = static_cast<int>(header.width);
   file.height = static_cast<int>(header.height);
-  file.pixels = std::make_unique_for_overwrite<std::uint32_t[]>(
-      static_cast<std::size_t>(file.width) * file.height);
+  // Not cleared first: each pixel is read.
+  file.pixels.reset(new std::uint32_t[static_cast<std::size_t>(file.width) * file.height]);
   for (int y = 0; y < file.height; ++y) {
     const int row = header.top_down ? y : file.height - 1 - y;
     const char* source = bytes.data() + header.pixels_at + header.pitch * row;

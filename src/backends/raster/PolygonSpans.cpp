@@ -31,7 +31,8 @@ void AddCrossing(Point from, Point to, int y, std::vector<Crossing>& crossings) 
 // Cuts the row's crossings into the runs with a winding number other than 0.
 void AddSpans(std::vector<Crossing>& crossings, int y, const Rect& bounds,
               std::vector<PolygonSpan>& spans) {
-  std::ranges::sort(crossings, {}, &Crossing::x);
+  std::sort(crossings.begin(), crossings.end(),
+            [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
   int winding = 0;
   int start = 0;
   for (const Crossing& crossing : crossings) {
@@ -49,9 +50,10 @@ void AddSpans(std::vector<Crossing>& crossings, int y, const Rect& bounds,
 std::vector<PolygonSpan> PolygonSpans(std::span<const Point> corners, const Rect& bounds) {
   std::vector<PolygonSpan> spans;
   if (corners.empty()) return spans;
-  const auto [highest, lowest] = std::ranges::minmax(corners, {}, &Point::y);
+  const auto [highest, lowest] = std::minmax_element(
+      corners.begin(), corners.end(), [](const Point& a, const Point& b) { return a.y < b.y; });
   std::vector<Crossing> crossings;
-  for (int y = std::max(highest.y, bounds.top); y < std::min(lowest.y, bounds.bottom); ++y) {
+  for (int y = std::max(highest->y, bounds.top); y < std::min(lowest->y, bounds.bottom); ++y) {
     crossings.clear();
     for (std::size_t i = 0; i < corners.size(); ++i) {
       AddCrossing(corners[i], corners[(i + 1) % corners.size()], y, crossings);

@@ -145,8 +145,8 @@ Color RasterGdi::SetBkColor(ContextHandle context, Color color) {
 
 BitmapHandle RasterGdi::CreatePictureBitmap(const Picture& picture) {
   if (picture.Empty() || faults_.Fails("CreatePictureBitmap")) return 0;
-  PixelBuffer pixels = std::make_unique_for_overwrite<std::uint32_t[]>(picture.words.size());
-  std::ranges::copy(picture.words, pixels.get());
+  PixelBuffer pixels(new std::uint32_t[picture.words.size()]);
+  std::copy(picture.words.begin(), picture.words.end(), pixels.get());
   bitmaps_.emplace(++last_handle_, std::make_shared<RasterBitmap>(
                                        picture.size.width, picture.size.height, std::move(pixels)));
   return last_handle_;

@@ -84,31 +84,11 @@ Verdict MessageRouter::ToArea(const ModelInstance& receiver, Call& call) {
     case PlayAreaVerb::kAcceptedCell:
       return {};
     case PlayAreaVerb::kInner:
-      return SpeaksToCells(call) ? Verdict{} : ToPlainObject(receiver, call);
+      // Cells come and go in play.
+      if (EndsAtChildren(ObjectVerbOf(call.Verb()))) return {};
+      return ToPlainObject(receiver, call);
   }
   return {};
-}
-
-// Cells come and go in play.
-bool MessageRouter::SpeaksToCells(const Call& call) {
-  switch (ObjectVerbOf(call.Verb())) {
-    case ObjectVerb::kToObj:
-    case ObjectVerb::kToType:
-    case ObjectVerb::kShowObj:
-    case ObjectVerb::kShowType:
-      return true;
-    case ObjectVerb::kHideObj:
-    case ObjectVerb::kHideType:
-    case ObjectVerb::kRunScript:
-    case ObjectVerb::kUserAction:
-    case ObjectVerb::kAddGlobalObj:
-    case ObjectVerb::kRunState:
-    case ObjectVerb::kChangeState:
-    case ObjectVerb::kRemoveObj:
-    case ObjectVerb::kClimb:
-      return false;
-  }
-  return false;
 }
 
 }  // namespace quendle

@@ -12,8 +12,8 @@ namespace {
 
 // Places in the tree of one sender that are followed.
 constexpr std::size_t kMostSenders = 4;
-// Each takes two levels of work and more, so the game ends before.
-constexpr std::size_t kMostOpen = WorkDepth::kLimit / 2;
+// Each takes three levels of work and more (a line, a message, a walk), so the game ends before.
+constexpr std::size_t kMostOpen = WorkDepth::kLimit / 3;
 constexpr std::size_t kDeepestTree = 20;
 // Answers that are followed in all: the end of a tree made to have no end.
 constexpr long kMostFollowed = 300'000;

@@ -67,7 +67,6 @@ class MessageRouter {
   Verdict ToFrame(const ModelInstance& receiver, Call& call);
   Verdict ToPoints(const ModelInstance& receiver, Call& call);
   Verdict ToArea(const ModelInstance& receiver, Call& call);
-  static bool SpeaksToCells(const Call& call);
   Verdict ToPlainObject(const ModelInstance& receiver, Call& call);
   Verdict ToGame(const ModelObject* root, Call& call);
   Verdict ToCurrentScreen(const ModelObject* root, Call& call);

@@ -38,8 +38,8 @@ class FileSystemRules : public testing::TestWithParam<Kind> {
     content_.Put(native, text);
   }
   std::string At(const std::string& path) const { return Base() + path; }
-  std::optional<std::string> Read(const std::string& path) { return files_->Read(At(path)); }
-  bool Write(const std::string& path, const std::string& text) {
+  FileAnswer Read(const std::string& path) { return files_->Read(At(path)); }
+  FileChange Write(const std::string& path, const std::string& text) {
     return files_->Write(At(path), text);
   }
   bool Exists(const std::string& path) { return files_->Exists(At(path)); }
