@@ -374,6 +374,7 @@ TEST_F(GameLogicLayerTest, ReleaseLetsGoOfEverythingAndMayRunAgain) {
 }
 
 TEST_F(GameLogicLayerTest, MessagesAreCarriedOutAtOnceAndStartNoTimer) {
+  Start();
   const std::size_t timers = backend.timers.Running().size();
   for (const char* message :
        {"toscreen_tools_addglobalobj_asparetool", "cs_floor1hall1", "cursor_bandaid",
@@ -386,6 +387,7 @@ TEST_F(GameLogicLayerTest, MessagesAreCarriedOutAtOnceAndStartNoTimer) {
 }
 
 TEST_F(GameLogicLayerTest, TheirEndKillsTheirTimerAndSaysNothing) {
+  Start();
   ObjectRef screen = logic->CurrentScreen();
   ASSERT_FALSE(backend.timers.Running().empty());
   ForgetTrace();

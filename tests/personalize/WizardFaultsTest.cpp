@@ -51,7 +51,7 @@ TEST_F(WizardPictures, WithoutASuitThereIsNoThirdStage) {
   Click(kOutline);
   EXPECT_THAT(FatalOf([&] { PressPicture(3); }),
               testing::AllOf(testing::HasSubstr("Info\\GlobalReferences\\images\\person\\"),
-                             testing::HasSubstr("doctorsuit.bmp can't be loaded: ")));
+                             testing::HasSubstr("doctorsuit.bmp: the picture can't be read: ")));
 }
 
 // A saver that leaves what nobody can read.
@@ -73,7 +73,8 @@ TEST_F(WizardPictures, AFaceThatCannotBeReadEndsTheWizard) {
   form.Open();
   ToPartition();
   Click(kOutline);
-  EXPECT_THAT(FatalOf([&] { PressPicture(3); }), testing::HasSubstr("face.bmp can't be loaded: "));
+  EXPECT_THAT(FatalOf([&] { PressPicture(3); }),
+              testing::HasSubstr("face.bmp: the picture can't be read: "));
 }
 
 }  // namespace
