@@ -25,7 +25,9 @@
 #include "object/ObjectFactory.h"
 #include "object/ObjectWorld.h"
 #include "script/ScriptWorld.h"
+#include "subgames/PointSystemObject.h"
 #include "subgames/SubgameClasses.h"
+#include "subgames/SubgameObject.h"
 #include "support/FakeSounds.h"
 
 namespace quendle {
@@ -39,7 +41,7 @@ inline MemoryFileSystem TinyClinic() {
     files.Put(std::string("\\Info\\global") + list + "states.txt", "");
   }
   files.Put("\\info\\doodle.wma", "music");
-  files.Put("\\info\\tools\\tool.bmp", Filled(1, 1, 0xC8C8C8));
+  files.Put("\\info\\tools\\tool.bmp", Filled(1, 1, 'k'));
   PutGlobal(files, {.type = "doctor",
                     .name = "doctor",
                     .states = {{.name = "default"},
@@ -155,7 +157,9 @@ class FuzzClinic {
     Register<ToolObject>({"tool"});
     Register<ButtonObject>({"button", "dialog"});
     Register<PatientObject>({"doctor", "patient"});
-    RegisterSubgameClasses(factory_);
+    Register<SubgameObject>({"subgame"});
+    Register<PointSystemObject>({"pointsystem"});
+    RegisterPlayAreas(factory_);
   }
   ~FuzzClinic() {
     logic_.reset();

@@ -29,7 +29,7 @@ Plant Row(int count, int times) {
     for (int k = 0; k < times; ++k) lines += "mtp useraction_a" + std::to_string(i + 1) + "\n";
   }
   return Well(lines + "elseif action = a" + std::to_string(count) +
-              "\nchange default\nendif\nend\n");
+              "\nmtp showobj_pal\nendif\nend\n");
 }
 
 // A statement of the play button, in front of its own.
@@ -142,7 +142,7 @@ std::vector<CheckPair> ScriptPairs() {
       {"V710", "Info\\dog\\wellscript.txt:3",
        Well("begin\nif action = hop\nmtp useraction_hop\nendif\nend\n"),
        Well("begin\nif action = hop\nchange default\nmtp useraction_hop\nendif\nend\n")},
-      {"V710", "Info\\dog\\wellscript.txt:3",
+      {"V710", "Info\\dog\\wellscript.txt:5",
        Well("begin\nif action = hop\nmtp toobj_dog_useraction_skip\nelseif action = skip\n"
             "mtp toscreen_currentscreen_useraction_hop\nendif\nend\n"),
        Well("begin\nif action = hop\nmtp toobj_dog_useraction_skip\nelseif action = skip\n"
@@ -150,7 +150,7 @@ std::vector<CheckPair> ScriptPairs() {
       {"V710", "Info\\dog\\wellscript.txt:2", Well("begin\nmtp toobj_dog_runscript_well\nend\n"),
        Well("begin\nmtp toobj_dog_runscript_treat\nend\n")},
       {"V711", "Info\\dog\\wellscript.txt:45", Row(30, 2), Row(30, 1)},
-      {"V711", "Info\\dog\\wellscript.txt:135", Row(150, 1), Row(40, 1)},
+      {"V711", "Info\\dog\\wellscript.txt:133", Row(150, 1), Row(40, 1)},
   };
 }
 
