@@ -5,17 +5,20 @@ has to be hit fills its cell.
 """
 
 from animals import dog
+from arcade_sprites import VIOLET, bug, butterfly, drop, foe_drop, germ, play_bubble
 from cat import cat
+from counters import (
+    bubble_counter, carrot_clock, germ_counter, heart_counter, lives_counter, replay_button, small_buttons, star_counter,
+)
 from furniture import carrot, cloud, flower, shadow, tree, wall
-from items import again, antiseptic, arrow, cog_button, dog_face, grapes, hand, no_cross, question, tick
+from items import antiseptic, arrow, cog_button, dog_face, grapes, hand, no_cross, tick
 from rabbit import rabbit
 from shapes import (
     CORAL, CREAM, DARKWOOD, GREEN, ORANGE, OUTLINE, PINK, SKY, TEAL, WHITE, WOOD, YELLOW, box, ellipse, flat,
-    heart, heart_path, light, limb, move, n, shade, shut_eye, solid, sparkle, star, star_path, stroke,
+    heart, light, limb, move, n, shade, shut_eye, solid, sparkle, star, stroke,
 )
 from turtle import turtle, turtle_face
 
-VIOLET = "#b48ad6"
 TILE, PITCH, TILES_A_ROW = 126, 130, 3
 BOARD_LEFT, BOARD_TOP = 205, 66
 
@@ -61,26 +64,15 @@ def square_room():
     size = PITCH * TILES_A_ROW
     out += solid(box(BOARD_LEFT - 22, BOARD_TOP - 20, size + 40, size + 40, 24), WOOD, 9)
     out += flat(box(BOARD_LEFT - 6, BOARD_TOP - 4, size + 8, size + 8, 12), shade(WOOD, 0.45))
-    for place in range(9):
-        x, y = BOARD_LEFT + place % 3 * PITCH, BOARD_TOP + place // 3 * PITCH
-        out += flat(box(x + 2, y + 2, TILE - 4, TILE - 4, 12), shade(WOOD, 0.3))
+    out += move(tile_picture(), BOARD_LEFT, BOARD_TOP) + flat(box(BOARD_LEFT - 1, BOARD_TOP - 1, size + 2, size + 2, 4), CREAM, 0.62)
+    for edge in (TILE + 2, TILE + PITCH + 2):
+        out += stroke(f"M{BOARD_LEFT + edge},{BOARD_TOP}v{size}M{BOARD_LEFT},{BOARD_TOP + edge}h{size}", shade(WOOD, 0.3), 4)
     out += shadow(94, 546, 70, 9) + move(rabbit("sad", "drunk"), -26, 264, size=0.78, about=(120, 284))
     out += shadow(706, 566, 76, 9) + limb("M664,520L652,560", DARKWOOD, 9) + limb("M748,520L760,560", DARKWOOD, 9)
     return out + solid(box(624, 372, 164, 164, 12), WOOD, 6) + move(tile_picture(), 633, 381, size=146 / 390)
 
 
 # --- germs and spray ------------------------------------------------------------------------------
-
-
-def germ(colour, mood=0):
-    """A germ of 64 by 60, more cross than terrible."""
-    out = ""
-    for x, y in ((10, 14), (54, 14), (6, 36), (58, 36), (18, 54), (46, 54), (32, 6)):
-        out += stroke(f"M32,32L{x},{y}", OUTLINE, 9) + stroke(f"M32,32L{x},{y}", colour, 3) + solid(ellipse(x, y, 5), colour, 0, 3)
-    out += solid(ellipse(32, 32, 24, 22), colour, 6, glint=(24, 20, 6, 3))
-    out += flat(ellipse(24, 30, 6, 7), WHITE) + flat(ellipse(40, 30, 6, 7), WHITE) + flat(ellipse(25, 32, 3), OUTLINE) + flat(ellipse(39, 32, 3), OUTLINE)
-    out += stroke("M17,21L28,25M47,21L36,25", OUTLINE, 3)
-    return out + stroke("M25,45Q32,39 39,45" if mood else "M24,42H40", OUTLINE, 3)
 
 
 def germ_sheet(sheet):
@@ -96,13 +88,10 @@ def spray_sheet(sheet):
     return sheet
 
 
-def drop(x, y):
-    return move(solid("M11,2Q20,14 20,20A9,9 0 0 1 2,20Q2,14 11,2Z", SKY, 3, 3, glint=(7, 20, 2, 4)), x, y)
-
-
 def drop_sheet(sheet):
     sheet.add("drop", drop(0, 0))
     sheet.add("splash", sparkle(11, 15, 11, WHITE))
+    sheet.add("foe", foe_drop())
     return sheet
 
 
@@ -122,14 +111,18 @@ def shooter_room():
 # --- mud and bubble -------------------------------------------------------------------------------
 
 
+def mud_lump(colour, mood):
+    """A lump of mud of 90 by 70, full to the edges."""
+    out = solid(box(1, 1, 88, 68, 16), colour, 6, 3, glint=(22, 14, 12, 4))
+    out += flat(ellipse(32, 30, 8, 9), WHITE) + flat(ellipse(58, 30, 8, 9), WHITE) + flat(ellipse(34, 32, 4), OUTLINE) + flat(ellipse(56, 32, 4), OUTLINE)
+    mouth = ("M34,51H56", "M34,52Q45,44 56,52", "M34,48Q45,56 56,48", "M34,51L40,47L46,52L52,47L57,51", "M41,50A5,4 0 1 0 50,50A5,4 0 1 0 41,50", "M35,50Q45,52 55,47")[mood]
+    return out + stroke(mouth, OUTLINE, 3.5)
+
+
 def mud_sheet(sheet):
-    """Five lumps of mud of 50 by 50, full to the edges."""
-    looks = ((DARKWOOD, 0), ("#99603a", 1), ("#8a6a4a", 2), ("#a8743a", 3), ("#7d5238", 4))
-    for number, (colour, mood) in enumerate(looks, 1):
-        out = solid(box(1, 1, 48, 48, 9), colour, 5, 3, glint=(15, 9, 8, 3))
-        out += flat(ellipse(17, 22, 5, 6), WHITE) + flat(ellipse(33, 22, 5, 6), WHITE) + flat(ellipse(18, 23, 2.5), OUTLINE) + flat(ellipse(32, 23, 2.5), OUTLINE)
-        out += stroke(("M18,36H32", "M18,37Q25,31 32,37", "M18,34Q25,40 32,34", "M20,36L24,33L28,37L32,34", "M22,35A3,3 0 1 0 28,35A3,3 0 1 0 22,35")[mood], OUTLINE, 3)
-        sheet.add(f"mud{number}", out)
+    colours = (DARKWOOD, "#99603a", "#8a6a4a", "#a8743a", "#7d5238", "#94703f")
+    for number, colour in enumerate(colours, 1):
+        sheet.add(f"mud{number}", mud_lump(colour, number - 1))
     return sheet
 
 
@@ -138,22 +131,18 @@ def foam(cx, cy, r):
     return solid(ellipse(cx, cy, r), WHITE, 4, 3) + stroke(f"M{n(cx - r * 0.45)},{n(cy - r * 0.3)}Q{n(cx - r * 0.2)},{n(cy - r * 0.55)} {n(cx + r * 0.1)},{n(cy - r * 0.55)}", light(SKY, 0.2), 3)
 
 
-def play_bubble(cx, cy, r):
-    """The bubble that is played: violet with a rainbow, so that it stands out from all foam."""
-    rainbow = "".join(stroke(f"M{n(cx - r * 0.62)},{n(cy + r * (0.34 - k * 0.17))}Q{n(cx)},{n(cy + r * (1.02 - k * 0.17))} {n(cx + r * 0.62)},{n(cy + r * (0.34 - k * 0.17))}", colour, r * 0.17)
-                      for k, colour in enumerate((CORAL, YELLOW, TEAL)))  # fmt: skip
-    return solid(ellipse(cx, cy, r), VIOLET, 3, 3.5, inside=rainbow, glint=(cx - r * 0.32, cy - r * 0.42, r * 0.32, r * 0.22))
-
-
 def bubble_sheet(sheet):
-    sheet.add("bubble", play_bubble(18, 18, 16))
+    sheet.add("bubble", play_bubble(30, 30, 28))
     return sheet
 
 
 def paddle_sheet(sheet):
-    """The bar of soap that sends the bubble up."""
-    out = solid(box(2, 2, 146, 34, 12), PINK, 6, 4, glint=(40, 9, 26, 3)) + stroke(box(20, 10, 110, 18, 9), shade(PINK, 0.3), 3)
-    sheet.add("paddle", out + heart(75, 18, 7))
+    """The bar of soap that sends the bubble up: for a calm game, as a rule, and for a quick one."""
+    for name, width in (("calm", 300), ("plain", 220), ("quick", 190)):
+        if sheet.cells:
+            sheet.below(width, 38, 1)
+        out = solid(box(2, 2, width - 4, 34, 12), PINK, 6, 4, glint=(40, 9, 26, 3)) + stroke(box(20, 10, width - 40, 18, 9), shade(PINK, 0.3), 3)
+        sheet.add(name, out + heart(width / 2, 18, 7))
     return sheet
 
 
@@ -177,28 +166,11 @@ def brick_room():
 FLEA_COLOURS = ("#8a5a44", "#7a4a3a", "#a5653f", "#6b4a5a", "#94704a", "#7d3f3f")
 
 
-def bug(colour, hop=0):
-    """A flea of 64 by 60: brown, with a cheeky face and six legs."""
-    legs = "".join(f"M{x},40L{x + d},{54 + hop}" for x, d in ((20, -8), (30, -3), (40, 4))) + "M46,36L58,30M48,42L58,50M18,34L6,28"
-    out = stroke(legs, OUTLINE, 4)
-    out += solid(ellipse(30, 32, 22, 17), colour, 5, glint=(22, 22, 7, 3)) + stroke("M22,18V46M32,16V48", shade(colour, 0.4), 3)
-    out += solid(ellipse(46, 26, 13, 12), colour, 3) + flat(ellipse(43, 24, 4, 5), WHITE) + flat(ellipse(51, 24, 4, 5), WHITE) + flat(ellipse(44, 25, 2), OUTLINE) + flat(ellipse(52, 25, 2), OUTLINE)
-    return out + stroke("M43,32Q47,35 51,31M40,15L36,6M52,15L56,6", OUTLINE, 2.5)
-
-
 def bug_sheet(sheet):
     for number, colour in enumerate(FLEA_COLOURS, 1):
         sheet.add(f"bug{number}a", bug(colour))
         sheet.add(f"bug{number}b", bug(colour, -6))
     return sheet
-
-
-def butterfly(fold=1.0):
-    wings = ""
-    for side in (-1, 1):
-        wings += solid(ellipse(32 + side * 15 * fold, 20, 15 * fold, 15), PINK, 3) + solid(ellipse(32 + side * 12 * fold, 42, 11 * fold, 12), YELLOW, 3)
-        wings += flat(ellipse(32 + side * 15 * fold, 19, 6 * fold, 6), WHITE) + flat(ellipse(32 + side * 12 * fold, 42, 4 * fold, 4), CORAL)
-    return wings + solid(ellipse(32, 32, 5, 20), CORAL, 2, 3) + solid(ellipse(32, 12, 7), CORAL, 0, 3) + stroke("M29,7L22,1M35,7L42,1M30,13Q32,15 34,13", OUTLINE, 2.5)
 
 
 def butterfly_sheet(sheet):
@@ -242,7 +214,7 @@ def square_hint():
 def shooter_hint():
     out = move(germ(GREEN), 48, 36) + falls(88, 112, 0.9).replace("M4,-8V-16M11,-12V-24M18,-8V-16", "M4,38V46M11,42V54M18,38V46") + antiseptic(102, 196, 0.95)
     out += hand(160, 214, 1.3) + cog_button(150, 62, 24, GREEN, tick(150, 60, 0.6)) + stroke("M196,44V240", YELLOW, 5)
-    out += move(germ(VIOLET), 210, 36) + falls(231, 126) + antiseptic(238, 212, 0.95) + cog_button(312, 62, 24, CORAL, no_cross(312, 60, 0.58))
+    out += move(germ(VIOLET), 210, 36) + move(foe_drop() + stroke("M4,-8V-16M11,-12V-24M18,-8V-16", OUTLINE, 3), 231, 126) + antiseptic(238, 212, 0.95) + cog_button(312, 62, 24, CORAL, no_cross(312, 60, 0.58))
     return out + arrow(284, 206, 0.6, fill=YELLOW) + dog_face(370, 118, 1.0) + sparkle(396, 62, 13, YELLOW)
 
 
@@ -259,63 +231,6 @@ def bobble_hint():
     out += stroke("M212,40V240", YELLOW, 5) + star(70, 208, 18) + star(112, 216, 18) + star(154, 208, 18)
     out += move(butterfly(), 242, 52, size=1.3) + hand(318, 138, 1.6) + cog_button(370, 92, 28, CORAL, no_cross(370, 89, 0.7))
     return out + heart(258, 210, 17) + stroke("M234,232L282,188", OUTLINE, 9) + stroke("M234,232L282,188", WHITE, 4)
-
-
-# --- buttons and counters -------------------------------------------------------------------------
-
-
-def small_buttons(sheet, add_states):
-    """Help, the way out, and the tick that confirms it: 84 by 92 each."""
-    add_states(sheet, "help", cog_button(42, 46, 36, SKY, question(42, 38, 0.8, YELLOW)))
-    door = solid("M16,84V26Q16,10 32,10H52Q68,10 68,26V84Z", CORAL, 5) + solid("M26,84V32Q26,20 38,20H46Q58,20 58,32V84Z", light(YELLOW, 0.4), 0, 3)
-    add_states(sheet, "leave", door + move(arrow(0, 0, 0.75, turn=180, fill=TEAL), 42, 56))
-    add_states(sheet, "tick", cog_button(42, 46, 36, GREEN, tick(42, 43, 0.9)))
-    return sheet
-
-
-def replay_button(sheet, add_states):
-    add_states(sheet, "replay", cog_button(92, 92, 80, ORANGE, again(88, 88, 1.7)))
-    return sheet
-
-
-def star_counter(sheet):
-    """Fifteen stars, of which 0 to 15 shine."""
-    for shining in range(16):
-        out = solid(box(2, 2, 308, 32, 15), CREAM, 0, 3)
-        for i in range(15):
-            out += flat(star_path(22 + i * 19.2, 18, 9), YELLOW if i < shining else shade(CREAM, 0.12)) + stroke(star_path(22 + i * 19.2, 18, 9), OUTLINE, 1.5)
-        sheet.add(f"stars{shining}", out)
-    return sheet
-
-
-def germ_counter(sheet):
-    """Twelve places: the germs that are left, and a star for each that is gone."""
-    for left in range(13):
-        out = solid(box(2, 2, 466, 40, 18), CREAM, 0, 3)
-        for i in range(12):
-            out += move(germ(GREEN), 14 + i * 37.5, 8, size=0.48) if i < left else star(29 + i * 37.5, 23, 11)
-        sheet.add(f"germs{left}", out)
-    return sheet
-
-
-def heart_counter(sheet):
-    """Five hearts, of which 5 to 0 are left."""
-    for left in range(5, -1, -1):
-        out = solid(box(2, 2, 136, 32, 15), CREAM, 0, 3)
-        for i in range(5):
-            out += heart(20 + i * 25, 18, 9) if i < left else flat(heart_path(20 + i * 25, 18, 8), shade(CREAM, 0.14))
-        sheet.add(f"hearts{left}", out)
-    return sheet
-
-
-def bubble_counter(sheet):
-    """The bubbles that are left: three, two, one."""
-    for left in (3, 2, 1):
-        out = solid(box(2, 2, 128, 44, 20), CREAM, 0, 3)
-        for i in range(3):
-            out += play_bubble(26 + i * 40, 24, 14) if i < left else flat(ellipse(26 + i * 40, 24, 11), shade(CREAM, 0.12))
-        sheet.add(f"bubbles{left}", out)
-    return sheet
 
 
 def arcade_sheets(make_sheet, add_states):
@@ -347,9 +262,9 @@ def arcade_sheets(make_sheet, add_states):
         "Info/shooterscreen/drop": cells(22, 30, 2, drop_sheet),
         "Info/brickscreen/room": room(brick_room),
         "Info/brickscreen/hint": board(brick_hint),
-        "Info/brickscreen/mud": cells(50, 50, 5, mud_sheet),
-        "Info/brickscreen/bubble": cells(36, 36, 1, bubble_sheet),
-        "Info/brickscreen/paddle": cells(150, 38, 1, paddle_sheet),
+        "Info/brickscreen/mud": cells(90, 70, 3, mud_sheet),
+        "Info/brickscreen/bubble": cells(60, 60, 1, bubble_sheet),
+        "Info/brickscreen/paddle": cells(300, 38, 1, paddle_sheet),
         "Info/bobblescreen/room": room(bobble_room),
         "Info/bobblescreen/hint": board(bobble_hint),
         "Info/bobblescreen/bug": cells(64, 60, 2, bug_sheet),
@@ -360,4 +275,6 @@ def arcade_sheets(make_sheet, add_states):
         shared + "bubbles": cells(132, 48, 3, bubble_counter),
         shared + "germs": cells(470, 44, 2, germ_counter),
         shared + "hearts": cells(140, 36, 2, heart_counter),
+        "Info/shooterscreen/lives": cells(76, 36, 3, lives_counter),
+        "Info/squarescreen/clock": cells(84, 250, 7, carrot_clock),
     }

@@ -1,8 +1,11 @@
 """Buttons and the boards that ask."""
 
+from cat import cat_face
 from items import again, arrow, cog_button, dog_face, house, moon, no_cross, question, tick, triangle
-from shapes import CORAL, CREAM, GREEN, LAVENDER, ORANGE, TEAL, YELLOW, box, ellipse, flat, move, solid, stroke
+from rabbit import rabbit_face
+from shapes import CORAL, CREAM, GREEN, LAVENDER, ORANGE, TEAL, YELLOW, box, ellipse, flat, move, solid, stroke, tear
 from sheet import Sheet, add_states
+from turtle import turtle_face
 
 
 def intro_buttons():
@@ -40,8 +43,14 @@ def exit_panel():
 
 
 def fresh_panel():
-    sheet = Sheet(440, 310, 1)
-    sheet.add("panel", panel(dog_face(110, 100, 1.2) + cog_button(220, 98, 44, ORANGE, again(218, 94, 0.95)) + question(336, 92, 1.05)))
+    """The two questions before a new game: all patients ill, and once more, with the tools gone as well."""
+    sheet = Sheet(440, 310, 2)
+    ill = cog_button(86, 92, 44, ORANGE, again(84, 88, 0.95)) + arrow(152, 92, 0.6, fill=YELLOW)
+    ill += dog_face(214, 92, 0.8) + cat_face(280, 96, 0.8) + rabbit_face(340, 98, 0.7) + turtle_face(394, 92, 0.62)
+    sheet.add("panel", panel(ill))
+    sure = question(62, 92, 0.9) + dog_face(134, 66, 0.7) + cat_face(206, 70, 0.7) + rabbit_face(278, 72, 0.62) + turtle_face(346, 66, 0.62)
+    sure += "".join(tear(x, 96, 9) for x in (116, 190, 264, 332)) + question(398, 92, 0.9)
+    sheet.add("sure", panel(sure))
     return sheet
 
 

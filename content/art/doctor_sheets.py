@@ -99,6 +99,7 @@ def bubble_contents():
         ("turtle-parched", step(turtle_with(solid("M46,93H58V103Q52,111 46,103Z", PINK, 0, 2.5)), water, 1.05)),
         ("turtle-scratch", step(turtle_with(stroke("M34,70L42,62L48,68L56,58", CORAL, 4)), bandaid, 0.9)),
         ("turtle-well", turtle_face(80, 82, 1.3) + heart(146, 56, 17) + heart(172, 98, 12, PINK)),
+        ("helping", hand(52, 84, 1.3) + hand(104, 84, 1.3) + cog_button(166, 76, 32, GREEN, tick(166, 73, 0.8)) + heart(78, 40, 13)),
     )
 
 
