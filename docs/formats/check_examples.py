@@ -180,7 +180,7 @@ CASES = [
     ("README.md", POND + "pondroomchildren.txt",
      (LINE, 1, "<CurrentDirectory>\\pondroom.txt"),
      "more than 60 objects inside one another: the content goes round in circles at object file "
-     '"Info\\\\Pond\\\\pondroom.txt"'),
+     '"Info\\Pond\\pondroom.txt"'),
     ("settings.md", "\\GameMode.txt", (CUT, 0),
      "the file ends where the game mode should stand", ["start"]),
     ("settings.md", "\\GameRunning.txt", (CUT, 0),
