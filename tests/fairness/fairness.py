@@ -24,7 +24,7 @@ import sys
 import tempfile
 
 from child import CHILDREN, Hand
-from games import GAMES, Played
+from games import GAMES
 
 LEVELS = {"Easy": "optEasy", "Normal": "optMedium", "Hard": "optHard"}
 IN_ONE_PROCESS = 10  # games; then another process goes on, with another seed
