@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "platform/Geometry.h"
@@ -12,7 +13,9 @@ namespace quendle {
 struct FontSize {
   int pixels = 12;
   bool bold = false;
-  friend auto operator<=>(const FontSize&, const FontSize&) = default;
+  friend bool operator<(const FontSize& a, const FontSize& b) {
+    return std::tie(a.pixels, a.bold) < std::tie(b.pixels, b.bold);
+  }
 };
 
 // A line of letters: how much of each pixel they cover, 0 to 255, row by row.
