@@ -80,6 +80,8 @@ void StartUpGame(Globals& globals, SettingsFiles& files, GameHost& host, int win
   globals.GameLogic->TurnOn();
   globals.starting.reset();
   saves.StartHasGoneWell(choice);
+  // What only a kept save remembers must outlive the next crash, too.
+  if (choice.file != kAutosaveFile && choice.file != kSavedGameFile) globals.GameLogic->Autosave();
   TellFamily(globals, choice.sentence);
   if (globals.media.content.HasUnsaved()) TellFamily(globals, kNothingRemembered);
 }

@@ -29,17 +29,21 @@ SavedGames::Choice SavedGames::Choose() const {
   if (!autosave) return ChooseWithoutAutosave();
   if (IsGood(*autosave, kAutosaveFile)) {
     if (!HasFailedTwice()) return {kAutosaveFile, ""};
-    Choice choice = ChooseWithoutAutosave();
+    Choice choice = ChooseInPlaceOfAutosave();
     choice.on_trial = true;
     return choice;
   }
   GiveUpAutosave();
-  // The newest kept save was good when the lost game began or ended: it isn't older than the saved
-  // game.
-  if (std::optional<std::string> kept = NewestKept()) return {*kept, kEndIsLost};
-  Choice choice = ChooseWithoutAutosave();
+  Choice choice = ChooseInPlaceOfAutosave();
   choice.sentence = kEndIsLost;
   return choice;
+}
+
+SavedGames::Choice SavedGames::ChooseInPlaceOfAutosave() const {
+  // The newest kept save was good when the lost game began or ended: it isn't older than the saved
+  // game.
+  if (std::optional<std::string> kept = NewestKept()) return {*kept, ""};
+  return ChooseWithoutAutosave();
 }
 
 SavedGames::Choice SavedGames::ChooseWithoutAutosave() const {

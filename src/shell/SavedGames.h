@@ -43,6 +43,7 @@ class SavedGames {
   std::optional<std::string> NewestKept() const;
   bool HasFailedTwice() const;
   void GiveUpAutosave() const;
+  Choice ChooseInPlaceOfAutosave() const;
   Choice ChooseWithoutAutosave() const;
   Choice ChooseInPlaceOfSavedGame(const std::string& damaged) const;
 

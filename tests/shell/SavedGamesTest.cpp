@@ -335,6 +335,30 @@ TEST_F(KeptSaves, WhatARecoveringStartHasLoadedIsKeptToo) {
   EXPECT_EQ(DogRemembered(run.files, true), "won");
 }
 
+TEST_F(KeptSaves, TheNewestOfThemTakesThePlaceOfAnAutosaveOnTrial) {
+  disk.Put("\\userdata.txt.1", SavedDog("won"));
+  disk.Put("\\autosave.txt", SavedDog("lost"));
+  for (int start = 1; start <= 2; ++start) {
+    NextRun run(disk, true);
+    run.files.Remove("C:\\game\\Info\\tools\\data.txt");
+    EXPECT_EQ(run.Play(), Status::kFailed);
+    disk = run.files;
+  }
+  NextRun third(disk, true);
+  ASSERT_EQ(third.Play(), Status::kRunning);
+  EXPECT_EQ(third.Dog(), "won");
+}
+
+TEST_F(KeptSaves, AStartFromOneOfThemOutlivesAQuickStop) {
+  disk.Put("\\userdata.txt", SavedDog("lost"));
+  disk.Put("\\userdata.txt.1", SavedDog("won"));
+  disk.Put("\\autosave.txt", "damaged");
+  NextRun run(disk, true);
+  ASSERT_EQ(run.Play(), Status::kRunning);
+  // The run dies here, before its first change of screen.
+  EXPECT_EQ(DogRemembered(run.files, true), "won");
+}
+
 TEST_F(KeptSaves, AMissingSavedGameIsANewGameWhateverIsKept) {
   Run("won");
   NextRun run(disk, true);
