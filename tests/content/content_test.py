@@ -44,6 +44,7 @@ def stripped(name):
 
 NOTHING_SEEN = (1, 1)  # the size of a frame of one transparent pixel: what is away can't be hit
 
+
 class Thing:
     """One object of the game with the frames that its picture is cut into."""
 
