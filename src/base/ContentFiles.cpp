@@ -9,8 +9,8 @@
 namespace quendle {
 namespace {
 
-// Two hundred times the longest text of the demo clinic. What is made of a text takes up to forty
-// times its room.
+// Hundreds of times the longest text of the demo clinic. What is made of a text takes many times
+// its room, and that is what the limit keeps small.
 constexpr std::size_t kMostTextBytes = 4'000'000;
 
 // Collects lines and replaces the file as a whole at Close; a stream that is dropped before

@@ -29,8 +29,8 @@ class DepthGuard;
 class WorkDepth {
  public:
   static constexpr int kLimit = 200;
-  // How much of each kind of work, in the order of the kinds, one event may bring about: more than
-  // a hundred times what the demo clinic needs.
+  // How much of each kind of work, in the order of the kinds, one event may bring about: far from
+  // what a game of many screens needs.
   static const std::array<int, 6> kMost;
   static int MostOf(Work work) { return kMost[static_cast<std::size_t>(work)]; }
 
